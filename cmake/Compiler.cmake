@@ -1,0 +1,28 @@
+# Warnings are errors everywhere; the sanitizers, the compiler cache and the quick linker are used where they are.
+
+add_library(vermanto_warnings INTERFACE)
+if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+  target_compile_options(vermanto_warnings INTERFACE
+    -Wall -Wextra -Wpedantic -Werror
+    -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual
+    -Wcast-qual -Wformat=2 -Wimplicit-fallthrough)
+elseif(MSVC)
+  target_compile_options(vermanto_warnings INTERFACE /W4 /WX /permissive- /utf-8)
+endif()
+
+if(VERMANTO_SANITIZE)
+  add_compile_options(-fsanitize=${VERMANTO_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=${VERMANTO_SANITIZE})
+endif()
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+
+if(UNIX)
+  find_program(MOLD_PROGRAM mold)
+  if(MOLD_PROGRAM)
+    add_link_options(-fuse-ld=mold)
+  endif()
+endif()

@@ -1,0 +1,43 @@
+#pragma once
+// Finding the serial port on which a register answers, and setting up the cable's driver.
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace ecr {
+
+/// The system's version as it is compared for the driver tools: "5,01", "6", "6,01". Set on the start screen.
+extern std::string OsVersion;
+extern bool Os64Bit;
+
+enum class PortColour { red, green };
+
+/// Where the walk shows what it does: the number in the port field, and the colour of its text.
+struct PortDisplay {
+  std::function<void(int)> number;
+  std::function<void(PortColour)> colour;
+};
+void show_ports_on(PortDisplay display);
+
+/// Walks the devices whose caption names a COM port and tests the connection on each; the first that answers becomes
+/// Global::ComPort. Answers whether one did. A caption whose number is none, or above 255, ends the walk. The screens
+/// stay open to input meanwhile. When `give_up` is set and answers true behind a test, the walk ends as if it were over.
+bool Test_Com(bool skipLog, const std::function<bool()>& give_up = {});
+
+/// Sets up the cable's driver with the tools in PathDriver. True where there is nothing to wait for, also where the
+/// tools do not apply to this system.
+bool Install_Driver(bool force);
+
+/// Whether the processor's caption in the device list says 64 bits.
+bool Get_OsBits();
+
+/// The devices whose captions are walked: the system's own, then those in the file "register\devices.txt" of the
+/// application folder, one a line, which is how an emulated register shows the port it hangs on. A first line "only"
+/// leaves the system's own out.
+[[nodiscard]] std::vector<std::string> device_captions();
+
+void reset_ports();
+
+}  // namespace ecr
