@@ -12,7 +12,9 @@ constexpr int quantity_decimals = 4;
 constexpr std::size_t amount_bytes = 8;
 
 /// 10^(2n-1) for a field of n bytes: the largest stored number that is not negative.
-Decimal sign_weight(std::size_t bytes) { return Decimal{1}.scaled(static_cast<int>(2 * bytes) - 1); }
+Decimal sign_weight(std::size_t bytes) {
+  return Decimal{1}.scaled(static_cast<int>(2 * bytes) - 1);
+}
 
 }  // namespace
 

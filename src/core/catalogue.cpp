@@ -47,9 +47,13 @@ const std::array<Slot, 6> slots = {{
 
 }  // namespace
 
-const std::string& message(Key key) noexcept { return texts[static_cast<std::size_t>(key)]; }
+const std::string& message(Key key) noexcept {
+  return texts[static_cast<std::size_t>(key)];
+}
 
-void set_message(Key key, std::string text) { texts[static_cast<std::size_t>(key)] = std::move(text); }
+void set_message(Key key, std::string text) {
+  texts[static_cast<std::size_t>(key)] = std::move(text);
+}
 
 std::optional<Key> key_named(std::string_view name) {
   static const auto index = [] {
@@ -62,7 +66,9 @@ std::optional<Key> key_named(std::string_view name) {
   return found == index.end() ? std::nullopt : std::optional{found->second};
 }
 
-std::string_view name_of(Key key) noexcept { return key_names[static_cast<std::size_t>(key)]; }
+std::string_view name_of(Key key) noexcept {
+  return key_names[static_cast<std::size_t>(key)];
+}
 
 void carica_messaggi_default() {
   for (const Slot& slot : slots) slot.text = message_or(slot.key, slot.built_in);

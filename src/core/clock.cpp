@@ -32,9 +32,13 @@ std::string two_digits(int number) {
 
 }  // namespace
 
-Moment now() { return installed_clock ? installed_clock() : system_moment(); }
+Moment now() {
+  return installed_clock ? installed_clock() : system_moment();
+}
 
-void install_clock(std::function<Moment()> clock) { installed_clock = std::move(clock); }
+void install_clock(std::function<Moment()> clock) {
+  installed_clock = std::move(clock);
+}
 
 std::string date_text(const Moment& moment) {
   return two_digits(moment.day) + "-" + two_digits(moment.month) + "-" + two_digits(moment.year);

@@ -7,8 +7,8 @@
 namespace ecr {
 
 struct Moment {
-  int day = 1;     ///< 1 to 31
-  int month = 1;   ///< 1 to 12
+  int day = 1;    ///< 1 to 31
+  int month = 1;  ///< 1 to 12
   int year = 2000;
   double second_of_day = 0;  ///< 0 up to, but not including, 86400; local time
 };

@@ -8,13 +8,15 @@ namespace ecr {
 namespace {
 
 // The 32 codes in which the page differs from Latin-1, by their Unicode characters.
-constexpr std::array<char16_t, 32> upper_controls = {
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+constexpr std::array<char16_t, 32> upper_controls = {0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                                     0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
+                                                     0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                                     0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 constexpr char16_t first_upper_control = 128;
 
-constexpr bool same_as_latin1(char16_t c) { return c < first_upper_control || (c >= 160 && c <= 255); }
+constexpr bool same_as_latin1(char16_t c) {
+  return c < first_upper_control || (c >= 160 && c <= 255);
+}
 
 }  // namespace
 
@@ -37,7 +39,8 @@ CodeText codes_of(std::u16string_view unicode) {
 
 std::u16string unicode_of(std::string_view bytes) {
   std::u16string text(bytes.size(), u'\0');
-  std::transform(bytes.begin(), bytes.end(), text.begin(), [](char c) { return unicode_of(static_cast<unsigned char>(c)); });
+  std::transform(bytes.begin(), bytes.end(), text.begin(),
+                 [](char c) { return unicode_of(static_cast<unsigned char>(c)); });
   return text;
 }
 

@@ -11,8 +11,12 @@
 namespace ecr {
 namespace {
 
-constexpr int tens_of(std::uint8_t byte) { return byte >> 4; }
-constexpr int units_of(std::uint8_t byte) { return byte & 0x0F; }
+constexpr int tens_of(std::uint8_t byte) {
+  return byte >> 4;
+}
+constexpr int units_of(std::uint8_t byte) {
+  return byte & 0x0F;
+}
 
 }  // namespace
 
@@ -88,7 +92,9 @@ void number_to_bcds(std::span<std::uint8_t> field, std::string_view value) {
   });
 }
 
-void number_to_bcds(std::span<std::uint8_t> field, const Decimal& value) { number_to_bcds(field, value.text(0)); }
+void number_to_bcds(std::span<std::uint8_t> field, const Decimal& value) {
+  number_to_bcds(field, value.text(0));
+}
 
 std::uint8_t ottieni_numero(std::string_view text, std::string_view separator) {
   std::uint8_t result = 0;

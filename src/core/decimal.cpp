@@ -1,16 +1,18 @@
 #include "core/decimal.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <limits>
+#include <utility>
 
 #include "core/fault.h"
 
 namespace ecr {
 namespace {
 
-constexpr bool is_digit(char c) { return c >= '0' && c <= '9'; }
+constexpr bool is_digit(char c) {
+  return c >= '0' && c <= '9';
+}
 
 std::string_view without_blanks(std::string_view text) {
   const std::size_t first = text.find_first_not_of(' ');
@@ -32,47 +34,58 @@ std::string_view take_digits(std::string_view& text) {
   return digits;
 }
 
+/// Adds one to a number given as digits.
+void increment(std::string& digits) {
+  for (auto digit = digits.rbegin(); digit != digits.rend(); ++digit) {
+    if (*digit != '9') {
+      ++*digit;
+      return;
+    }
+    *digit = '0';
+  }
+  digits.insert(0, "1");
+}
+
+/// Takes the last `count` digits away; what they were worth rounds the others, a half away from zero.
+void drop_last(std::string& digits, int count) {
+  const int kept = static_cast<int>(digits.size()) - count;
+  const bool up = kept >= 0 && digits[static_cast<std::size_t>(kept)] >= '5';
+  digits.resize(static_cast<std::size_t>(std::max(kept, 0)));
+  if (up) increment(digits);
+}
+
 }  // namespace
 
-Decimal::Wide Decimal::power_of_ten(int exponent) {
-  static constexpr auto powers = [] {
-    std::array<Wide, 39> table{};
-    Wide power = 1;
-    for (Wide& entry : table) {
-      entry = power;
-      if (&entry != &table.back()) power *= 10;
-    }
-    return table;
-  }();
-  return powers[static_cast<std::size_t>(exponent)];
+Decimal::Decimal(std::int64_t number) {
+  const std::string text = std::to_string(number);
+  *this = from_digits(number < 0, text.substr(number < 0 ? 1 : 0), 0);
 }
 
-int Decimal::digits_in(Wide magnitude) {
-  int digits = 1;
-  while (digits < 39 && magnitude >= power_of_ten(digits)) ++digits;
-  return digits;
-}
-
-Decimal Decimal::from_parts(bool negative, Wide magnitude, int scale) {
-  while (scale > 0 && magnitude % 10 == 0) {
-    magnitude /= 10;
-    --scale;
-  }
+Decimal Decimal::from_digits(bool negative, std::string digits, int scale) {
+  digits.erase(0, std::min(digits.find_first_not_of('0'), digits.size()));
+  if (digits.empty()) return {};
   if (scale < 0) {
-    if (magnitude != 0 && digits_in(magnitude) - scale > max_digits) throw FaultError{FaultCode::overflow};
-    magnitude *= magnitude == 0 ? 1 : power_of_ten(-scale);
+    if (static_cast<int>(digits.size()) - scale > max_digits) throw FaultError{FaultCode::overflow};
+    digits.append(static_cast<std::size_t>(-scale), '0');
     scale = 0;
   }
-  // Decimals that do not fit are rounded away, those in front of the point are not.
-  while (scale > 0 && (scale > max_digits || digits_in(magnitude) > max_digits)) {
-    const bool up = magnitude % 10 >= 5;
-    magnitude = magnitude / 10 + (up ? 1 : 0);
+  // Decimals that do not fit are rounded away, those in front of the point are not. All go at once: digit by digit,
+  // 0.445 would become 0.45 and then 0.5.
+  const int excess = std::max(scale - max_digits, std::min(scale, static_cast<int>(digits.size()) - max_digits));
+  if (excess > 0) {
+    drop_last(digits, excess);
+    scale -= excess;
+  }
+  while (scale > 0 && !digits.empty() && digits.back() == '0') {
+    digits.pop_back();
     --scale;
   }
-  if (digits_in(magnitude) > max_digits) throw FaultError{FaultCode::overflow};
+  if (digits.size() > static_cast<std::size_t>(max_digits)) throw FaultError{FaultCode::overflow};
   Decimal result;
-  result.coefficient_ = negative ? -magnitude : magnitude;
-  result.scale_ = magnitude == 0 ? 0 : scale;
+  std::copy(digits.begin(), digits.end(), result.digits_.begin());
+  result.count_ = static_cast<int>(digits.size());
+  result.scale_ = digits.empty() ? 0 : scale;
+  result.negative_ = negative && !digits.empty();
   return result;
 }
 
@@ -90,29 +103,26 @@ std::optional<Decimal> Decimal::parse(std::string_view text) {
   if (!text.empty() && (text.front() == 'E' || text.front() == 'e')) {
     text.remove_prefix(1);
     const bool down = take_sign(text);
-    const std::string_view digits = take_digits(text);
-    if (digits.empty()) return std::nullopt;
-    for (const char digit : digits) exponent = std::min(exponent * 10 + (digit - '0'), 10000);
+    const std::string_view figures = take_digits(text);
+    if (figures.empty()) return std::nullopt;
+    for (const char figure : figures) exponent = std::min(exponent * 10 + (figure - '0'), 10000);
     if (down) exponent = -exponent;
   }
   if (!text.empty()) return std::nullopt;
 
   std::string digits{whole};
   digits += fraction;
-  // Where the point stands once the exponent has moved it, counted in digits from the left.
-  int point = static_cast<int>(std::min<std::size_t>(whole.size(), 100000)) + exponent;
   const std::size_t zeros = std::min(digits.find_first_not_of('0'), digits.size());
   digits.erase(0, zeros);
-  point -= static_cast<int>(zeros);
   if (digits.empty()) return Decimal{};
+  // How many digits stand in front of the point once the exponent has moved it; below 0 where zeros follow the point.
+  const std::int64_t point = static_cast<std::int64_t>(whole.size()) + exponent - static_cast<std::int64_t>(zeros);
   if (point > max_digits) throw FaultError{FaultCode::overflow};
   if (point < -max_digits) return Decimal{};
   // One digit more than can be kept decides the rounding.
-  const auto kept = static_cast<std::size_t>(max_digits + 1);
-  if (digits.size() > kept) digits.resize(kept);
-  Wide magnitude = 0;
-  for (const char digit : digits) magnitude = magnitude * 10 + (digit - '0');
-  return from_parts(negative, magnitude, static_cast<int>(digits.size()) - point);
+  digits.resize(std::min(digits.size(), static_cast<std::size_t>(max_digits + 1)));
+  const int scale = static_cast<int>(digits.size()) - static_cast<int>(point);
+  return from_digits(negative, std::move(digits), scale);
 }
 
 Decimal Decimal::from_text(std::string_view text) {
@@ -126,80 +136,73 @@ Decimal Decimal::leading(std::string_view text) {
   const bool negative = take_sign(text);
   std::string_view digits = take_digits(text);
   digits.remove_prefix(std::min(digits.find_first_not_of('0'), digits.size()));
-  if (digits.size() > static_cast<std::size_t>(max_digits)) {
-    return from_parts(negative, power_of_ten(max_digits) - 1, 0);
-  }
-  Wide magnitude = 0;
-  for (const char digit : digits) magnitude = magnitude * 10 + (digit - '0');
-  return from_parts(negative, magnitude, 0);
+  const bool too_long = digits.size() > static_cast<std::size_t>(max_digits);
+  return from_digits(negative, too_long ? std::string(max_digits, '9') : std::string{digits}, 0);
 }
 
 Decimal Decimal::scaled(int exponent) const {
-  return from_parts(coefficient_ < 0, coefficient_ < 0 ? -coefficient_ : coefficient_, scale_ - exponent);
+  return from_digits(negative_, digits(), scale_ - exponent);
+}
+
+std::string Decimal::digits_at(int scale) const {
+  return digits().append(static_cast<std::size_t>(scale - scale_), '0');
 }
 
 Decimal Decimal::operator+(const Decimal& other) const {
-  // Both are brought to the finer scale; where that does not fit, the sum could not be exact either.
   const int scale = std::max(scale_, other.scale_);
-  const auto at_scale = [scale](const Decimal& number) {
-    const Wide magnitude = number.coefficient_ < 0 ? -number.coefficient_ : number.coefficient_;
-    if (magnitude != 0 && digits_in(magnitude) + scale - number.scale_ > max_digits + 9) {
-      throw FaultError{FaultCode::overflow};
-    }
-    return magnitude == 0 ? Wide{0} : number.coefficient_ * power_of_ten(scale - number.scale_);
-  };
-  const Wide sum = at_scale(*this) + at_scale(other);
-  return from_parts(sum < 0, sum < 0 ? -sum : sum, scale);
+  const bool mine_is_larger = compare_magnitude(other) != std::strong_ordering::less;
+  const Decimal& large = mine_is_larger ? *this : other;
+  const Decimal& small = mine_is_larger ? other : *this;
+  std::string sum = large.digits_at(scale);
+  std::string addend = small.digits_at(scale);
+  addend.insert(0, sum.size() - std::min(sum.size(), addend.size()), '0');
+  // The smaller one is added to the larger one or taken from it, from the last digit on, with a carry.
+  const int sign = negative_ == other.negative_ ? 1 : -1;
+  int carry = 0;
+  for (std::size_t i = sum.size(); i-- > 0;) {
+    const int value = (sum[i] - '0') + sign * (addend[i] - '0') + carry;
+    carry = value > 9 ? 1 : value < 0 ? -1 : 0;
+    sum[i] = static_cast<char>('0' + value - 10 * carry);
+  }
+  if (carry > 0) sum.insert(0, "1");
+  return from_digits(large.negative_, std::move(sum), scale);
 }
 
 Decimal Decimal::rounded() const {
-  if (scale_ == 0) return *this;
-  const Wide unit = power_of_ten(scale_);
-  const Wide magnitude = coefficient_ < 0 ? -coefficient_ : coefficient_;
-  return from_parts(coefficient_ < 0, magnitude / unit + (magnitude % unit * 2 >= unit ? 1 : 0), 0);
+  std::string whole = digits();
+  drop_last(whole, scale_);
+  return from_digits(negative_, std::move(whole), 0);
 }
 
-std::string Decimal::text() const { return text(scale_); }
+std::string Decimal::text() const {
+  return text(scale_);
+}
 
-std::string Decimal::text(int decimals, int digits) const {
+std::string Decimal::text(int decimals, int digits_in_front) const {
   const int shown = std::clamp(decimals, 0, max_digits);
-  Wide magnitude = coefficient_ < 0 ? -coefficient_ : coefficient_;
-  int scale = scale_;
-  if (scale > shown) {
-    const Wide unit = power_of_ten(scale - shown);
-    magnitude = magnitude / unit + (magnitude % unit * 2 >= unit ? 1 : 0);
-    scale = shown;
-  }
-  std::string result;
-  const auto put = [&result](auto digit) { result += static_cast<char>('0' + static_cast<int>(digit)); };
-  for (; magnitude > std::numeric_limits<std::uint64_t>::max(); magnitude /= 10) put(magnitude % 10);
-  const bool is_zero = result.empty() && magnitude == 0;
-  for (auto rest = static_cast<std::uint64_t>(magnitude); rest > 0; rest /= 10) put(rest % 10);
-  std::reverse(result.begin(), result.end());
-  result.append(static_cast<std::size_t>(shown - scale), '0');
-  const auto least = static_cast<std::size_t>(std::clamp(digits, 0, max_digits) + shown);
+  std::string result = digits();
+  if (scale_ > shown) drop_last(result, scale_ - shown);
+  const bool minus = negative_ && !result.empty();
+  if (scale_ < shown) result.append(static_cast<std::size_t>(shown - scale_), '0');
+  const auto least = static_cast<std::size_t>(std::clamp(digits_in_front, 0, max_digits) + shown);
   if (result.size() < least) result.insert(0, least - result.size(), '0');
   if (shown > 0) result.insert(result.size() - static_cast<std::size_t>(shown), ".");
-  if (coefficient_ < 0 && !is_zero) result.insert(0, "-");
+  if (minus) result.insert(0, "-");
   return result;
 }
 
+std::strong_ordering Decimal::compare_magnitude(const Decimal& other) const {
+  if (count_ == 0 || other.count_ == 0) return count_ <=> other.count_;
+  // No number begins with a zero, so the one with more digits in front of the point is larger.
+  const auto in_front = count_ - scale_ <=> other.count_ - other.scale_;
+  return in_front != std::strong_ordering::equal ? in_front : digits() <=> other.digits();
+}
+
 std::strong_ordering Decimal::operator<=>(const Decimal& other) const {
-  const bool negative = coefficient_ < 0;
-  if (negative != (other.coefficient_ < 0)) {
-    return negative ? std::strong_ordering::less : std::strong_ordering::greater;
+  if (negative_ != other.negative_) {
+    return negative_ ? std::strong_ordering::less : std::strong_ordering::greater;
   }
-  // The same sign: whole parts first, then the fractions at the finer scale, which always fit.
-  const auto part = [](const Decimal& number, bool whole) {
-    const Wide unit = power_of_ten(number.scale_);
-    return whole ? number.coefficient_ / unit : number.coefficient_ % unit * power_of_ten(max_digits - number.scale_);
-  };
-  for (const bool whole : {true, false}) {
-    const Wide mine = part(*this, whole);
-    const Wide theirs = part(other, whole);
-    if (mine != theirs) return mine < theirs ? std::strong_ordering::less : std::strong_ordering::greater;
-  }
-  return std::strong_ordering::equal;
+  return negative_ ? other.compare_magnitude(*this) : compare_magnitude(other);
 }
 
 std::int64_t leading_number(std::string_view text) {

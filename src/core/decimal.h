@@ -1,7 +1,9 @@
 #pragma once
 // Exact decimal numbers of up to 28 digits: prices, rates and counters never pass through binary fractions.
 
+#include <array>
 #include <compare>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -11,8 +13,10 @@ namespace ecr {
 
 class Decimal {
  public:
-  constexpr Decimal() = default;
-  constexpr explicit Decimal(std::int64_t number) : coefficient_{number} {}
+  static constexpr int max_digits = 28;
+
+  Decimal() = default;
+  explicit Decimal(std::int64_t number);
 
   /// The number that the whole text says: blanks around it, a sign, digits with at most one point, an exponent
   /// ("1.5E+3"). Nothing if the text is anything else. FaultError(overflow) beyond 28 digits in front of the point;
@@ -34,8 +38,8 @@ class Decimal {
   /// The whole number nearest to it, halves away from zero.
   [[nodiscard]] Decimal rounded() const;
 
-  [[nodiscard]] bool is_negative() const noexcept { return coefficient_ < 0; }
-  [[nodiscard]] bool is_zero() const noexcept { return coefficient_ == 0; }
+  [[nodiscard]] bool is_negative() const noexcept { return negative_; }
+  [[nodiscard]] bool is_zero() const noexcept { return count_ == 0; }
 
   /// The shortest plain form: no exponent, no needless zeros, a point as the decimal sign.
   [[nodiscard]] std::string text() const;
@@ -47,17 +51,20 @@ class Decimal {
   [[nodiscard]] std::strong_ordering operator<=>(const Decimal& other) const;
   [[nodiscard]] bool operator==(const Decimal& other) const { return (*this <=> other) == std::strong_ordering::equal; }
 
-  static constexpr int max_digits = 28;
-
  private:
-  __extension__ using Wide = __int128;
+  /// The number that `digits`, the last `scale` of them behind the point, make.
+  static Decimal from_digits(bool negative, std::string digits, int scale);
+  [[nodiscard]] std::string digits() const { return {digits_.data(), static_cast<std::size_t>(count_)}; }
+  /// The digits with as many zeros behind them as bring the scale to `scale`.
+  [[nodiscard]] std::string digits_at(int scale) const;
+  [[nodiscard]] std::strong_ordering compare_magnitude(const Decimal& other) const;
 
-  static Decimal from_parts(bool negative, Wide magnitude, int scale);
-  static Wide power_of_ten(int exponent);
-  static int digits_in(Wide magnitude);
-
-  Wide coefficient_ = 0;  // the number is coefficient / 10^scale
-  int scale_ = 0;         // 0 to 28; no needless zeros at the coefficient's end
+  // The significant digits, highest first, as characters. The last `scale_` of them stand behind the point, with zeros
+  // in front of them where they are fewer. Neither the first digit nor, behind the point, the last one is a zero.
+  std::array<char, max_digits> digits_{};
+  int count_ = 0;
+  int scale_ = 0;
+  bool negative_ = false;
 };
 
 /// The lenient reading as a plain number, for small values; beyond the range it stays at the range's end.

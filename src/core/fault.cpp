@@ -38,7 +38,9 @@ std::string_view Fault::description() const noexcept {
   return "Unknown fault";
 }
 
-const char* FaultError::what() const noexcept { return fault_.description().data(); }
+const char* FaultError::what() const noexcept {
+  return fault_.description().data();
+}
 
 Fault fault_of_errno(int error) noexcept {
   switch (error) {

@@ -6,7 +6,9 @@
 #include <fstream>
 #include <ios>
 #include <system_error>
+#include <type_traits>
 
+#include "core/code_page.h"
 #include "core/system.h"
 #include "core/text.h"
 
@@ -28,7 +30,31 @@ Fault reason_not_opened(const fs::path& path) {
   return {FaultCode::permission_denied};
 }
 
-bool is_separator(char c) { return c == '\\' || c == '/'; }
+/// A path of the host as the standard library takes it. Where it keeps paths in wide characters, it does not know that
+/// the program's bytes are of the fixed code page.
+fs::path native_path(std::string_view path) {
+  const std::string host = host_path(path);
+  if constexpr (std::is_same_v<fs::path::value_type, char>) {
+    return {host};
+  } else {
+    const std::u16string text = unicode_of(host);
+    return {std::wstring{text.begin(), text.end()}};
+  }
+}
+
+/// The bytes of a file's name, the other way round.
+std::string bytes_of_name(const fs::path& name) {
+  if constexpr (std::is_same_v<fs::path::value_type, char>) {
+    return name.string();
+  } else {
+    const std::wstring text = name.wstring();
+    return bytes_of(std::u16string{text.begin(), text.end()});
+  }
+}
+
+bool is_separator(char c) {
+  return c == '\\' || c == '/';
+}
 
 }  // namespace
 
@@ -50,18 +76,18 @@ bool file_exists(std::string_view path) {
   // A path that ends with a separator names a folder, never a file.
   if (path.empty() || is_separator(path.back())) return false;
   std::error_code error;
-  const auto type = fs::status(host_path(path), error).type();
+  const auto type = fs::status(native_path(path), error).type();
   return type != fs::file_type::not_found && type != fs::file_type::none && type != fs::file_type::directory;
 }
 
 bool folder_exists(std::string_view path) {
   std::error_code error;
-  return fs::is_directory(host_path(path), error);
+  return fs::is_directory(native_path(path), error);
 }
 
 Fault read_file(std::string_view path, std::string& bytes, std::size_t limit) {
   bytes.clear();
-  const fs::path host{host_path(path)};
+  const fs::path host = native_path(path);
   std::error_code error;
   if (!fs::is_regular_file(host, error)) {
     const Fault reason = reason_not_opened(host);
@@ -107,13 +133,13 @@ Fault overwrite_file(std::string_view path, std::string_view bytes) {
 Fault delete_file(std::string_view path) {
   if (!file_exists(path)) return {folder_exists(path) ? FaultCode::path_access : FaultCode::file_not_found};
   std::error_code error;
-  fs::remove(host_path(path), error);
+  fs::remove(native_path(path), error);
   return fault_of(error);
 }
 
 Fault make_folder(std::string_view path) {
   std::error_code error;
-  const fs::path host{host_path(path)};
+  const fs::path host = native_path(path);
   if (fs::exists(host, error)) return {FaultCode::path_access};
   fs::create_directory(host, error);
   return fault_of(error);
@@ -127,18 +153,20 @@ Fault copy_file(std::string_view from, std::string_view to) {
 
 Fault rename_file(std::string_view from, std::string_view to) {
   std::error_code error;
-  if (fs::exists(host_path(to), error)) return {FaultCode::file_exists};
-  fs::rename(host_path(from), host_path(to), error);
+  if (fs::exists(native_path(to), error)) return {FaultCode::file_exists};
+  // Not every standard library tells why a file could not be renamed.
+  if (!fs::exists(native_path(from), error)) return {FaultCode::file_not_found};
+  fs::rename(native_path(from), native_path(to), error);
   return fault_of(error);
 }
 
 std::vector<std::string> files_matching(std::string_view folder, std::string_view pattern) {
   std::vector<std::string> names;
   std::error_code error;
-  for (fs::directory_iterator entry{host_path(folder), error}, end; !error && entry != end; entry.increment(error)) {
+  for (fs::directory_iterator entry{native_path(folder), error}, end; !error && entry != end; entry.increment(error)) {
     std::error_code ignored;
     if (entry->is_directory(ignored)) continue;
-    std::string name = entry->path().filename().string();
+    std::string name = bytes_of_name(entry->path().filename());
     if (matches_pattern(name, pattern)) names.push_back(std::move(name));
   }
   std::sort(names.begin(), names.end());

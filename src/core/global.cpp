@@ -44,7 +44,9 @@ void choose_model(std::uint8_t model) {
   MaxPlu = 3000;
 }
 
-std::string_view model_prefix() { return EcrModel == model_z320 ? "ECRZ320_" : "ECRZ300_"; }
+std::string_view model_prefix() {
+  return EcrModel == model_z320 ? "ECRZ320_" : "ECRZ300_";
+}
 
 void crea_cartelle() {
   for (const std::string* folder : std::array{&PathLog, &PathDati, &PathSetup, &PathReportDati, &PathReport}) {

@@ -27,7 +27,9 @@ Shell* installed_shell = &bare_shell;
 
 }  // namespace
 
-Shell& shell() noexcept { return *installed_shell; }
+Shell& shell() noexcept {
+  return *installed_shell;
+}
 
 Shell* install_shell(Shell* shell) noexcept {
   return std::exchange(installed_shell, shell != nullptr ? shell : &bare_shell);

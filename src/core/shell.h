@@ -56,7 +56,9 @@ class Shell {
 Shell* install_shell(Shell* shell) noexcept;
 
 /// A box with an Ok button alone.
-inline void tell(BoxKind kind, std::string_view text) { shell().box(kind, BoxButtons::ok, text, {}); }
+inline void tell(BoxKind kind, std::string_view text) {
+  shell().box(kind, BoxButtons::ok, text, {});
+}
 
 /// The busy pointer for as long as this object lives.
 class BusyPointer {

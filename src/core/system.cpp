@@ -17,6 +17,8 @@ System& system_layer() noexcept {
   return *installed_system;
 }
 
-System* install_system(System* system) noexcept { return std::exchange(installed_system, system); }
+System* install_system(System* system) noexcept {
+  return std::exchange(installed_system, system);
+}
 
 }  // namespace ecr

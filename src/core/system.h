@@ -42,6 +42,9 @@ class System {
   /// plug finds the old file or the new one. `path` is a path of the host. On a fault the old file stands untouched.
   [[nodiscard]] virtual Fault replace_file(const std::string& path, std::string_view bytes) = 0;
 
+  /// Whether paths of the host, as 8-bit text, are UTF-8; otherwise they are of the fixed code page.
+  [[nodiscard]] virtual bool paths_are_utf8() const { return true; }
+
   /// Appends `bytes` to the file, creating it. Faults: permission_denied while another process holds the file for
   /// itself, others as the system says.
   [[nodiscard]] virtual Fault append_file(const std::string& path, std::string_view bytes) = 0;
@@ -53,7 +56,8 @@ class System {
   virtual bool end_process(std::uint64_t id) = 0;
 
   /// Starts a program, a path of the host, with a minimised window where there are windows, and does not wait for it.
-  [[nodiscard]] virtual Fault start_minimised(const std::string& program, const std::vector<std::string>& arguments) = 0;
+  [[nodiscard]] virtual Fault start_minimised(const std::string& program,
+                                              const std::vector<std::string>& arguments) = 0;
 
   /// Whether the driver tools that come with the installation can run on this system at all.
   [[nodiscard]] virtual bool driver_tools_apply() const = 0;

@@ -3,15 +3,17 @@
 #include <cstring>
 #include <string>
 
+#include "core/catalogue.h"
 #include "core/files.h"
 #include "core/global.h"
 #include "core/shell.h"
-#include "core/catalogue.h"
 
 namespace ecr {
 namespace {
 
-std::string image_file() { return Global::PathDati + "PRG_MODE.BIN"; }
+std::string image_file() {
+  return Global::PathDati + "PRG_MODE.BIN";
+}
 
 // Positions of the keys 7, 4 and 1; the other two of each row lie on the next two positions.
 struct Keypad {
@@ -54,7 +56,9 @@ bool Read_PrgMode(bool toComparison) {
   return false;
 }
 
-void Write_PrgMode() { static_cast<void>(overwrite_file(image_file(), bytes_of_image(PrgMode))); }
+void Write_PrgMode() {
+  static_cast<void>(overwrite_file(image_file(), bytes_of_image(PrgMode)));
+}
 
 void reset_prg_mode() noexcept {
   PrgMode = {};

@@ -17,13 +17,13 @@ namespace ecr {
 
 struct DeptRecord {
   Text<12> Name;
-  Flags Status1;           ///< bit 0 negative, bit 1 single item, bit 3 set by a save, bits 4-7 digit limit 0 to 4
-  Flags Status2;           ///< bits 0-1 price type: 0 open, 1 normal, 2 preset
-  std::uint8_t Changed;    ///< 1: changed on screen before the last save
-  std::uint8_t Group;      ///< 0 none, 1 to 9, 16 for group 10
-  std::uint8_t Tax;        ///< 0 none, 1 to 4 the VAT rate
+  Flags Status1;            ///< bit 0 negative, bit 1 single item, bit 3 set by a save, bits 4-7 digit limit 0 to 4
+  Flags Status2;            ///< bits 0-1 price type: 0 open, 1 normal, 2 preset
+  std::uint8_t Changed;     ///< 1: changed on screen before the last save
+  std::uint8_t Group;       ///< 0 none, 1 to 9, 16 for group 10
+  std::uint8_t Tax;         ///< 0 none, 1 to 4 the VAT rate
   std::uint8_t TakeOutTax;  ///< the same scale
-  Bcd<4> Price;            ///< smallest units
+  Bcd<4> Price;             ///< smallest units
 };
 
 struct ClerkRecord {

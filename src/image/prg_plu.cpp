@@ -11,7 +11,9 @@
 namespace ecr {
 namespace {
 
-std::string plu_file() { return Global::PathDati + "PRG_PLU.BIN"; }
+std::string plu_file() {
+  return Global::PathDati + "PRG_PLU.BIN";
+}
 
 /// Copies the next bytes of a file into an object, as many as are left.
 template <typename Object>

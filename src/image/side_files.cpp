@@ -11,11 +11,14 @@
 namespace ecr {
 namespace {
 
-std::string language_file() { return Global::PathSetup + "Language.ini"; }
-std::string export_option_file() { return Global::PathSetup + "ExportOption.ini"; }
+std::string language_file() {
+  return Global::PathSetup + "Language.ini";
+}
+std::string export_option_file() {
+  return Global::PathSetup + "ExportOption.ini";
+}
 std::string key_default_file() {
-  return Global::PathDati +
-         (Global::EcrModel == Global::model_z320 ? "KEY_DEFAULTZ320.BIN" : "KEY_DEFAULTZ300.BIN");
+  return Global::PathDati + (Global::EcrModel == Global::model_z320 ? "KEY_DEFAULTZ320.BIN" : "KEY_DEFAULTZ300.BIN");
 }
 
 /// The head of the file into the bytes; a missing file is created empty.
@@ -46,14 +49,24 @@ void Read_Language() {
   read_into(language_file(), {&LanguageNumber, 1});
 }
 
-void Write_Language() { write_from(language_file(), {&LanguageNumber, 1}); }
+void Write_Language() {
+  write_from(language_file(), {&LanguageNumber, 1});
+}
 
-void Read_ExportOption() { read_into(export_option_file(), ExportOption); }
-void Write_ExportOption() { write_from(export_option_file(), ExportOption); }
+void Read_ExportOption() {
+  read_into(export_option_file(), ExportOption);
+}
+void Write_ExportOption() {
+  write_from(export_option_file(), ExportOption);
+}
 
-void Write_rs232_fw(std::uint8_t port) { write_from(Global::PathApp + "port.ini", {&port, 1}); }
+void Write_rs232_fw(std::uint8_t port) {
+  write_from(Global::PathApp + "port.ini", {&port, 1});
+}
 
-void Read_Key_Default() { read_into(key_default_file(), KeyDefault); }
+void Read_Key_Default() {
+  read_into(key_default_file(), KeyDefault);
+}
 
 void Write_Key_Default() {
   KeyDefault = PrgMode.KeyLayout;
@@ -71,7 +84,8 @@ void Read_EJ(std::string_view fileName) {
   // Rounded to the nearest, halves to the even neighbour.
   const auto count = static_cast<std::size_t>(std::nearbyint(static_cast<double>(length) / piece));
   Ej.Records.resize(count);
-  if (count > 0) std::memcpy(static_cast<void*>(Ej.Records.data()), bytes.data() + piece, std::min(length, count * piece));
+  if (count > 0)
+    std::memcpy(static_cast<void*>(Ej.Records.data()), bytes.data() + piece, std::min(length, count * piece));
 }
 
 void reset_side_files() {

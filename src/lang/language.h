@@ -1,10 +1,10 @@
 #pragma once
 // The program's languages: which there are, choosing one, and reading its texts into the catalogue.
 //
-// A language file is text in the code page, one entry a line, KEY=text. Blanks at the line's end go first. A line counts
-// when it has a "=" at its second character or later and begins with neither ";" nor "["; anything else is a comment.
-// The key is all in front of the first "=", the text all behind it, neither trimmed; in the text each section sign
-// becomes a carriage return. The last entry of a key wins.
+// A language file is text in the code page, one entry a line, KEY=text. Blanks at the line's end go first. A line
+// counts when it has a "=" at its second character or later and begins with neither ";" nor "["; anything else is a
+// comment. The key is all in front of the first "=", the text all behind it, neither trimmed; in the text each section
+// sign becomes a carriage return. The last entry of a key wins.
 
 #include <array>
 #include <cstdint>
@@ -18,7 +18,7 @@ struct Language {
   std::string_view file;         ///< in Setup\ .
   std::string_view help_folder;  ///< below the application folder, with its last backslash
   std::string_view help_file;
-  std::string_view flag;         ///< picture in Setup\ .
+  std::string_view flag;  ///< picture in Setup\ .
 };
 
 /// By language number, 0 to 7: English, Spanish, French, German, Dutch, Portuguese, Danish, Norwegian. Names are UTF-8.

@@ -13,10 +13,31 @@ std::string_view text_of(const std::array<CodeText32, N>& rows, std::int32_t cod
 
 }  // namespace
 
-constexpr std::array<std::string_view, 25> ReportName = {
-    "",          "",           "",        "C-I-D",   "FINANCIAL", "RANGE DEPT", "DEPT GROUP", "ALL PLU", "RANGE PLU",
-    "ALL CLERK", "ALL T-CLERK", "NT-CLERK", "TIME",    "TRAINING",  "FINANCIAL2", "OPEN TBL",   "FULL EJ", "OLD EJ",
-    "LATE EJ",   "DAILY EJ",   "ASK",     "MSK",     "RELEASE",   "",           ""};
+constexpr std::array<std::string_view, 25> ReportName = {"",
+                                                         "",
+                                                         "",
+                                                         "C-I-D",
+                                                         "FINANCIAL",
+                                                         "RANGE DEPT",
+                                                         "DEPT GROUP",
+                                                         "ALL PLU",
+                                                         "RANGE PLU",
+                                                         "ALL CLERK",
+                                                         "ALL T-CLERK",
+                                                         "NT-CLERK",
+                                                         "TIME",
+                                                         "TRAINING",
+                                                         "FINANCIAL2",
+                                                         "OPEN TBL",
+                                                         "FULL EJ",
+                                                         "OLD EJ",
+                                                         "LATE EJ",
+                                                         "DAILY EJ",
+                                                         "ASK",
+                                                         "MSK",
+                                                         "RELEASE",
+                                                         "",
+                                                         ""};
 
 constexpr std::array<CodeText32, 19> RegWireError = {{
     {0, ""},
@@ -59,7 +80,11 @@ constexpr std::array<CodeText32, 16> RegPixError = {{
     {0x10040000, "The numbers of dots in the line is over 2048 dots."},
 }};
 
-std::string_view NumToDesc_RegWire(std::int32_t code) { return text_of(RegWireError, code); }
-std::string_view NumToDesc_RegPix(std::int32_t code) { return text_of(RegPixError, code); }
+std::string_view NumToDesc_RegWire(std::int32_t code) {
+  return text_of(RegWireError, code);
+}
+std::string_view NumToDesc_RegPix(std::int32_t code) {
+  return text_of(RegPixError, code);
+}
 
 }  // namespace ecr

@@ -24,8 +24,12 @@ static_assert(family_head.size() == 20 && banner_of_080.size() == banner_width);
 
 std::function<void(std::string_view)> banner_watcher;
 
-std::string older_release_file() { return Global::PathDati + "RELEA.BIN"; }
-std::string release_file() { return Global::PathDati + "RELEASE.BIN"; }
+std::string older_release_file() {
+  return Global::PathDati + "RELEA.BIN";
+}
+std::string release_file() {
+  return Global::PathDati + "RELEASE.BIN";
+}
 
 }  // namespace
 
@@ -36,16 +40,15 @@ bool Get_Release() {
     if (file_exists(file)) static_cast<void>(delete_file(file));
   }
   std::int32_t resultCode = 0;
-  const std::int32_t answer = util_send_cmd_to_ecr(Global::PathApp, Direction::upload, FileNumber::release, resultCode,
-                                                   3, Global::ComPort);
+  const std::int32_t answer =
+      util_send_cmd_to_ecr(Global::PathApp, Direction::upload, FileNumber::release, resultCode, 3, Global::ComPort);
   if (answer != 1) {
     // The words of the report fetch are this line's own.
     memo_log("Receive_ReportEcr error using regwire");
     return false;
   }
   if (resultCode == ResultCode::done) return true;
-  memo_log("Get_Release error. Code: " + hex_text(resultCode) +
-           " Desc: " + std::string{NumToDesc_RegWire(resultCode)});
+  memo_log("Get_Release error. Code: " + hex_text(resultCode) + " Desc: " + std::string{NumToDesc_RegWire(resultCode)});
   if (resultCode == ResultCode::timeout) Process_Kill(exchange_tool);
   return false;
 }
@@ -85,7 +88,9 @@ bool Test_Connection(bool skipLog) {
   return Global::ComPort != 0 && Receive_ReportEcr(FileNumber::time);
 }
 
-void watch_banner(std::function<void(std::string_view)> watcher) { banner_watcher = std::move(watcher); }
+void watch_banner(std::function<void(std::string_view)> watcher) {
+  banner_watcher = std::move(watcher);
+}
 
 void reset_firmware() {
   FwBanner.assign(banner_width, ' ');

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <functional>
 #include <utility>
 #include <vector>
@@ -19,7 +20,8 @@ namespace {
 /// A text that a library may overwrite or replace: its buffer, and the pointer that crosses.
 class TextByReference {
  public:
-  explicit TextByReference(std::string& text) : text_{text}, buffer_(std::max<std::size_t>(TILBRIDGE_TEXT_SIZE, text.size() + 1)) {
+  explicit TextByReference(std::string& text)
+      : text_{text}, buffer_(std::max<std::size_t>(TILBRIDGE_TEXT_SIZE, text.size() + 1)) {
     std::copy(text.begin(), text.end(), buffer_.begin());
   }
   TextByReference(const TextByReference&) = delete;
@@ -53,9 +55,10 @@ class LoadedLibrary final : public LinkLibrary {
       return nullptr;
     }
     auto loaded = std::unique_ptr<LoadedLibrary>{new LoadedLibrary{std::move(library)}};
-    const std::array<std::pair<const char*, bool>, 3> calls = {{{"util_send_cmd_to_ecr", loaded->send_cmd_ != nullptr},
-                                                                {"util_get_range_report", loaded->range_report_ != nullptr},
-                                                                {"util_send_logo_to_ecr", loaded->send_logo_ != nullptr}}};
+    const std::array<std::pair<const char*, bool>, 3> calls = {
+        {{"util_send_cmd_to_ecr", loaded->send_cmd_ != nullptr},
+         {"util_get_range_report", loaded->range_report_ != nullptr},
+         {"util_send_logo_to_ecr", loaded->send_logo_ != nullptr}}};
     for (const auto& [call, found] : calls) {
       if (found) continue;
       memo_log("Link library " + name + " not used: it lacks the call " + call);
@@ -96,7 +99,7 @@ class LoadedLibrary final : public LinkLibrary {
 
 std::unique_ptr<LinkLibrary> library_in_use;
 bool looked_for = false;
-bool in_flight = false;
+std::atomic<bool> in_flight = false;
 Waiting waiting = Waiting::modal;
 
 LinkLibrary* library() {
@@ -108,6 +111,8 @@ LinkLibrary* library() {
 }
 
 /// Makes one call beside the screen thread, after any that is still on its way. `folder` crosses in the host's form.
+/// A handler that the screens run during one call may come here with another: the first is over when its job is, not
+/// when its own run_beside returns, which stands below the handler and cannot return before it.
 std::int32_t call_beside(std::string_view what, std::string& folder, std::int32_t& resultCode,
                          const std::function<std::int32_t(LinkLibrary&, std::string&)>& call) {
   while (in_flight) shell().let_screens_work();
@@ -117,8 +122,10 @@ std::int32_t call_beside(std::string_view what, std::string& folder, std::int32_
   std::string host_folder = host_path(folder);
   std::int32_t answer = 0;
   in_flight = true;
-  shell().run_beside(what, waiting, [&] { answer = call(*target, host_folder); });
-  in_flight = false;
+  shell().run_beside(what, waiting, [&] {
+    answer = call(*target, host_folder);
+    in_flight = false;
+  });
   folder = backslash_path(host_folder);
   return answer;
 }
@@ -167,10 +174,14 @@ std::int32_t util_send_logo_to_ecr(std::string& source, const std::string& targe
   });
 }
 
-bool link_call_in_flight() noexcept { return in_flight; }
+bool link_call_in_flight() noexcept {
+  return in_flight;
+}
 
 BackgroundCalls::BackgroundCalls() noexcept : before_{std::exchange(waiting, Waiting::background)} {}
-BackgroundCalls::~BackgroundCalls() { waiting = before_; }
+BackgroundCalls::~BackgroundCalls() {
+  waiting = before_;
+}
 
 void install_link_library(std::unique_ptr<LinkLibrary> library) {
   looked_for = library != nullptr;

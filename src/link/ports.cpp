@@ -8,6 +8,7 @@
 #include "core/files.h"
 #include "core/global.h"
 #include "core/run_log.h"
+#include "core/shell.h"
 #include "core/system.h"
 #include "core/text.h"
 #include "link/firmware.h"
@@ -54,7 +55,9 @@ void run_tool(const std::string& tool, std::string_view file) {
 std::string OsVersion;
 bool Os64Bit = false;
 
-void show_ports_on(PortDisplay new_display) { display = std::move(new_display); }
+void show_ports_on(PortDisplay new_display) {
+  display = std::move(new_display);
+}
 
 std::vector<std::string> device_captions() {
   std::vector<std::string> captions;
@@ -77,7 +80,10 @@ bool Test_Com(bool skipLog, const std::function<bool()>& give_up) {
   const auto walk = [&] {
     Global::ComPort = 0;
     show_number(0);
-    for (const std::string& caption : device_captions()) {
+    std::vector<std::string> captions;
+    // Some systems take their time over the list.
+    shell().run_beside("Looking for serial ports", Waiting::background, [&] { captions = device_captions(); });
+    for (const std::string& caption : captions) {
       const std::optional<std::uint8_t> port = port_in(caption);
       if (!port) continue;
       Global::ComPort = *port;
@@ -133,6 +139,16 @@ bool Get_OsBits() {
     if (caption.find("x64") != std::string::npos) return true;
   }
   return false;
+}
+
+std::string emulated_model() {
+  std::string bytes;
+  static_cast<void>(read_file(Global::PathApp + "register\\register.txt", bytes));
+  constexpr std::string_view key = "model = ";
+  for (const std::string_view line : lines_of(bytes)) {
+    if (line.starts_with(key)) return std::string{trim_end(line.substr(key.size()))};
+  }
+  return {};
 }
 
 void reset_ports() {

@@ -23,7 +23,8 @@ void show_ports_on(PortDisplay display);
 
 /// Walks the devices whose caption names a COM port and tests the connection on each; the first that answers becomes
 /// Global::ComPort. Answers whether one did. A caption whose number is none, or above 255, ends the walk. The screens
-/// stay open to input meanwhile. When `give_up` is set and answers true behind a test, the walk ends as if it were over.
+/// stay open to input meanwhile. When `give_up` is set and answers true behind a test, the walk ends as if it were
+/// over.
 bool Test_Com(bool skipLog, const std::function<bool()>& give_up = {});
 
 /// Sets up the cable's driver with the tools in PathDriver. True where there is nothing to wait for, also where the
@@ -37,6 +38,9 @@ bool Get_OsBits();
 /// application folder, one a line, which is how an emulated register shows the port it hangs on. A first line "only"
 /// leaves the system's own out.
 [[nodiscard]] std::vector<std::string> device_captions();
+
+/// The model of the emulated register that lies in the application folder, as its text file says; empty without one.
+[[nodiscard]] std::string emulated_model();
 
 void reset_ports();
 

@@ -26,7 +26,9 @@ std::optional<ProcessEntry> first_process(std::string_view name) {
 
 }  // namespace
 
-bool Process_Exists(std::string_view name) { return first_process(name).has_value(); }
+bool Process_Exists(std::string_view name) {
+  return first_process(name).has_value();
+}
 
 bool Process_Kill(std::string_view name) {
   const std::optional<ProcessEntry> process = first_process(name);

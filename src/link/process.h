@@ -19,7 +19,8 @@ bool Process_Kill(std::string_view name);
 /// Returns when no such process runs, however long that takes; the screens work meanwhile.
 void Process_Wait(std::string_view name);
 
-/// Lets `seconds` pass while the screens stay alive; midnight ends the wait. `what` tells the person what is waited for.
+/// Lets `seconds` pass while the screens stay alive; midnight ends the wait. `what` tells the person what is waited
+/// for.
 void Aspetta(double seconds, std::string_view what = {});
 
 }  // namespace ecr

@@ -16,8 +16,8 @@ namespace ecr {
 namespace {
 
 // Seconds, by report number. Those of the two range reports are never used.
-constexpr std::array<std::int32_t, 23> report_timeout = {0,  0,  0,  60, 60, 60, 60,  180, 60,  60, 60, 60,
-                                                         2,  60, 60, 60, 360, 360, 60, 360, 60, 360, 60};
+constexpr std::array<std::int32_t, 23> report_timeout = {0, 0,  0,  60, 60,  60,  60, 180, 60, 60,  60, 60,
+                                                         2, 60, 60, 60, 360, 360, 60, 360, 60, 360, 60};
 constexpr std::int32_t range_timeout = 120;
 
 /// Moves an older file of this report out of the way. Each step is tried, whatever became of the one before it.
@@ -47,8 +47,7 @@ bool Receive_ReportEcr(std::uint8_t number) {
     answer = util_get_range_report(Global::PathApp, number, resultCode, range_timeout, from, 9999, Global::ComPort);
   } else {
     const std::int32_t timeout = number < report_timeout.size() ? report_timeout[number] : 0;
-    answer =
-        util_send_cmd_to_ecr(Global::PathApp, Direction::upload, number, resultCode, timeout, Global::ComPort);
+    answer = util_send_cmd_to_ecr(Global::PathApp, Direction::upload, number, resultCode, timeout, Global::ComPort);
   }
 
   const bool delivered = answer == 1 && resultCode == ResultCode::done;

@@ -30,11 +30,11 @@ extern "C" {
  * timeout      seconds.
  * port         number of the serial port, 1 to 255.
  */
-typedef int32_t(TILBRIDGE_CALL *util_send_cmd_to_ecr_t)(char **folder, uint8_t direction, uint8_t file_number,
-                                                        int32_t *result_code, int32_t timeout, uint8_t port);
+typedef int32_t(TILBRIDGE_CALL* util_send_cmd_to_ecr_t)(char** folder, uint8_t direction, uint8_t file_number,
+                                                        int32_t* result_code, int32_t timeout, uint8_t port);
 
 /* Fetches a report over a range of records, both ends included. */
-typedef int32_t(TILBRIDGE_CALL *util_get_range_report_t)(char **folder, uint8_t file_number, int32_t *result_code,
+typedef int32_t(TILBRIDGE_CALL* util_get_range_report_t)(char** folder, uint8_t file_number, int32_t* result_code,
                                                          int32_t timeout, int32_t range_from, int32_t range_to,
                                                          uint8_t port);
 
@@ -44,8 +44,8 @@ typedef int32_t(TILBRIDGE_CALL *util_get_range_report_t)(char **folder, uint8_t 
  * target1  the bitmap's folder with its last separator
  * target2  the bitmap's file name
  */
-typedef int32_t(TILBRIDGE_CALL *util_send_logo_to_ecr_t)(char **source, const char *target1, const char *target2,
-                                                         int32_t *result_code, int32_t timeout);
+typedef int32_t(TILBRIDGE_CALL* util_send_logo_to_ecr_t)(char** source, const char* target1, const char* target2,
+                                                         int32_t* result_code, int32_t timeout);
 
 #define TILBRIDGE_TEXT_SIZE 4096
 

@@ -23,7 +23,9 @@ constexpr std::int32_t image_timeout = 120;
 constexpr std::int32_t plu_timeout = 180;
 constexpr double seconds_for_each_item = 1.4;
 
-std::string description(std::int32_t resultCode) { return std::string{NumToDesc_RegWire(resultCode)}; }
+std::string description(std::int32_t resultCode) {
+  return std::string{NumToDesc_RegWire(resultCode)};
+}
 
 /// A send to a register that does not answer is not tried: the program ends.
 void check_link_or_end() {
@@ -52,8 +54,10 @@ void merge_what_the_register_owns() {
   Write_PrgMode();
 }
 
+enum class Upload { done, not_run, refused };
+
 /// One of the two uploads of read_files_from_register, with the box and the log line of its failures.
-std::int32_t read_file_from_register(std::uint8_t fileNumber, std::int32_t timeout) {
+Upload read_file_from_register(std::uint8_t fileNumber, std::int32_t timeout) {
   const std::string number = std::to_string(fileNumber);
   std::int32_t resultCode = 0;
   const std::int32_t answer =
@@ -61,7 +65,7 @@ std::int32_t read_file_from_register(std::uint8_t fileNumber, std::int32_t timeo
   if (answer == 0) {
     memo_log("Errore nella chiamata di REGWIRE. File " + number);
     tell(BoxKind::plain, message(Key::FRM_PRINCIPALE_ECR_REGWIRE_KO_MSG));
-    return -1;
+    return Upload::not_run;
   }
   if (resultCode != ResultCode::done) {
     const std::string line = "REGWIRE return error: " + hex_text(resultCode) + " . File " + number;
@@ -71,8 +75,9 @@ std::int32_t read_file_from_register(std::uint8_t fileNumber, std::int32_t timeo
     memo_log(is_plu ? line + " Desc: " + description(resultCode) : line);
     tell(BoxKind::critical, text + (is_plu ? " " : "") + description(resultCode));
     if (resultCode == ResultCode::timeout) Process_Kill(exchange_tool);
+    return Upload::refused;
   }
-  return resultCode;
+  return Upload::done;
 }
 
 }  // namespace
@@ -146,14 +151,14 @@ void copia_def_file() {
 bool read_files_from_register() {
   const BusyPointer busy;
   shell().let_screens_work();
-  std::int32_t outcome = read_file_from_register(FileNumber::image, image_timeout);
-  if (outcome == ResultCode::done) {
+  Upload outcome = read_file_from_register(FileNumber::image, image_timeout);
+  if (outcome == Upload::done) {
     const std::string items = Global::PathDati + "PRG_PLU.BIN";
     if (file_exists(items)) static_cast<void>(delete_file(items));
     outcome = read_file_from_register(FileNumber::plu, plu_timeout);
   }
-  // The tool could not be run: the result code stays 0, and that counts.
-  return outcome <= ResultCode::done;
+  // Where the tool could not be run the result code stays 0, and that is what counts.
+  return outcome != Upload::refused;
 }
 
 }  // namespace ecr

@@ -20,10 +20,9 @@ std::string relative(const std::string& folder) {
 
 std::int32_t FakeLink::send_cmd(std::string& folder, std::uint8_t direction, std::uint8_t fileNumber,
                                 std::int32_t& resultCode, std::int32_t timeout, std::uint8_t port) {
-  calls.push_back("send_cmd folder=" + relative(folder) + " direction=" + std::to_string(direction) +
-                  " file=" + std::to_string(fileNumber) + " timeout=" + std::to_string(timeout) +
-                  " port=" + std::to_string(port));
-  const LinkAnswer given = answer_for(fileNumber);
+  calls.push_back("send_cmd folder=" + relative(folder) + " direction=" + std::to_string(direction) + " file=" +
+                  std::to_string(fileNumber) + " timeout=" + std::to_string(timeout) + " port=" + std::to_string(port));
+  const LinkAnswer given = answer_for(fileNumber, port);
   if (direction == Direction::upload) {
     deliver(fileNumber, given, folder);
   } else {
@@ -41,7 +40,7 @@ std::int32_t FakeLink::range_report(std::string& folder, std::uint8_t fileNumber
   calls.push_back("range_report folder=" + relative(folder) + " file=" + std::to_string(fileNumber) +
                   " timeout=" + std::to_string(timeout) + " from=" + std::to_string(rangeFrom) +
                   " to=" + std::to_string(rangeTo) + " port=" + std::to_string(port));
-  const LinkAnswer given = answer_for(fileNumber);
+  const LinkAnswer given = answer_for(fileNumber, port);
   deliver(fileNumber, given, folder);
   return finish(given, resultCode, folder);
 }
@@ -58,7 +57,8 @@ void FakeLink::be_a_register(const std::string& banner) {
   deliveries[12] = {"TIME.bin", "ping"};
 }
 
-LinkAnswer FakeLink::answer_for(int fileNumber) const {
+LinkAnswer FakeLink::answer_for(int fileNumber, int port) const {
+  if (register_port != 0 && port != register_port) return {1, 1025};
   const auto found = answers.find(fileNumber);
   return found == answers.end() ? answer : found->second;
 }

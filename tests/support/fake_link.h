@@ -22,6 +22,8 @@ class FakeLink final : public LinkLibrary {
   LinkAnswer answer;
   /// Answers for one file number, both directions.
   std::map<int, LinkAnswer> answers;
+  /// If not 0: a call on any other port ends with 1025.
+  int register_port = 0;
   /// Files that a successful upload or range report delivers: by file number, name in Dati\ and bytes.
   struct Delivery {
     std::string name;
@@ -50,7 +52,7 @@ class FakeLink final : public LinkLibrary {
   void be_a_register(const std::string& banner = "ECRZ300/ECRZ320F    FW rel.1.04     ");
 
  private:
-  [[nodiscard]] LinkAnswer answer_for(int fileNumber) const;
+  [[nodiscard]] LinkAnswer answer_for(int fileNumber, int port) const;
   void deliver(int fileNumber, const LinkAnswer& answer, const std::string& folder) const;
   std::int32_t finish(const LinkAnswer& answer, std::int32_t& resultCode, std::string& folder) const;
 };

@@ -63,7 +63,9 @@ InstallationTest::~InstallationTest() {
   fs::remove_all(folder_, ignored);
 }
 
-std::string InstallationTest::host(std::string_view path) const { return folder_ + "/" + std::string{path}; }
+std::string InstallationTest::host(std::string_view path) const {
+  return folder_ + "/" + std::string{path};
+}
 
 void InstallationTest::write(std::string_view path, std::string_view bytes) const {
   fs::create_directories(fs::path{host(path)}.parent_path());
@@ -76,13 +78,21 @@ std::string InstallationTest::bytes(std::string_view path) const {
   return {std::istreambuf_iterator<char>{file}, std::istreambuf_iterator<char>{}};
 }
 
-bool InstallationTest::exists(std::string_view path) const { return fs::exists(host(path)); }
+bool InstallationTest::exists(std::string_view path) const {
+  return fs::exists(host(path));
+}
 
-void InstallationTest::make_folder(std::string_view path) const { fs::create_directories(host(path)); }
+void InstallationTest::make_folder(std::string_view path) const {
+  fs::create_directories(host(path));
+}
 
-void InstallationTest::remove(std::string_view path) const { fs::remove_all(host(path)); }
+void InstallationTest::remove(std::string_view path) const {
+  fs::remove_all(host(path));
+}
 
-void InstallationTest::copy(std::string_view from, std::string_view to) const { write(to, bytes(from)); }
+void InstallationTest::copy(std::string_view from, std::string_view to) const {
+  write(to, bytes(from));
+}
 
 std::vector<std::string> InstallationTest::log() const {
   const std::string content = bytes("Log/memo_log.txt");
@@ -104,6 +114,8 @@ FakeLink& InstallationTest::link() {
   return *link_;
 }
 
-std::string test_data(std::string_view name) { return std::string{VERMANTO_TEST_DATA "/"} + std::string{name}; }
+std::string test_data(std::string_view name) {
+  return std::string{VERMANTO_TEST_DATA "/"} + std::string{name};
+}
 
 }  // namespace ecr::test

@@ -2,7 +2,6 @@
 // A fresh application folder for one test, with all shared state as before the program's start.
 
 #include <gtest/gtest.h>
-
 #include <string>
 #include <string_view>
 #include <vector>

@@ -1,7 +1,6 @@
 #include "support/scripted_shell.h"
 
 #include <gtest/gtest.h>
-
 #include <utility>
 
 namespace ecr::test {
@@ -22,8 +21,11 @@ void ScriptedShell::expect_box(BoxKind kind, std::string text, Answer answer) {
 
 Answer ScriptedShell::box(BoxKind kind, BoxButtons buttons, std::string_view text, std::string_view title) {
   box_titles.emplace_back(title);
+  if (on_box) on_box();
   if (expected_.empty()) {
     ADD_FAILURE() << "no box was expected, but one came: " << text;
+    // Something that shows boxes without an end would never let the test fail.
+    if (++unexpected_boxes_ == 10) throw ProgramEnded{};
     return buttons == BoxButtons::ok ? Answer::ok : Answer::no;
   }
   const ExpectedBox expected = expected_.front();

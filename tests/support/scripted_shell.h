@@ -32,6 +32,8 @@ class ScriptedShell final : public Shell {
   std::vector<Pointer> pointers;
   /// The seconds that each wait_until was asked for.
   std::vector<double> seconds_waited;
+  /// Called when a box is shown, before it is answered.
+  std::function<void()> on_box;
   /// Called at each turn of a wait.
   std::function<void()> on_screens_work;
 
@@ -51,6 +53,7 @@ class ScriptedShell final : public Shell {
     Answer answer;
   };
   std::deque<ExpectedBox> expected_;
+  int unexpected_boxes_ = 0;
   Shell* before_;
 };
 

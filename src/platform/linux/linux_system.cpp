@@ -1,21 +1,22 @@
-#include <dirent.h>
-#include <dlfcn.h>
-#include <fcntl.h>
-#include <sys/file.h>
-#include <sys/stat.h>
-#include <sys/utsname.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <cerrno>
 #include <charconv>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <dirent.h>
+#include <dlfcn.h>
+#include <fcntl.h>
 #include <filesystem>
+#include <fstream>
+#include <limits>
 #include <string>
 #include <string_view>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <sys/utsname.h>
+#include <sys/wait.h>
 #include <system_error>
+#include <unistd.h>
 #include <utility>
 #include <vector>
 
@@ -119,7 +120,11 @@ class LinuxSystem final : public System {
     return entries;
   }
 
-  bool end_process(std::uint64_t id) override { return ::kill(static_cast<pid_t>(id), SIGKILL) == 0; }
+  bool end_process(std::uint64_t id) override {
+    // 0 and everything that becomes negative would name whole groups of processes.
+    if (id == 0 || id > static_cast<std::uint64_t>(std::numeric_limits<pid_t>::max())) return false;
+    return ::kill(static_cast<pid_t>(id), SIGKILL) == 0;
+  }
 
   Fault start_minimised(const std::string& program, const std::vector<std::string>& arguments) override {
     std::vector<std::string> words{program};
@@ -180,10 +185,17 @@ class LinuxSystem final : public System {
   }
 
  private:
+  /// What new files are not allowed. Asking the system for it the usual way would change it for a moment, for all
+  /// threads.
   static mode_t mask_of_process() {
-    const mode_t mask = ::umask(0);
-    ::umask(mask);
-    return mask;
+    std::ifstream status{"/proc/self/status"};
+    std::string word;
+    while (status >> word) {
+      if (word != "Umask:") continue;
+      mode_t mask = 0;
+      if (status >> std::oct >> mask) return mask;
+    }
+    return 022;
   }
 
   /// The first, second or third number of the kernel's release.
@@ -201,7 +213,6 @@ class LinuxSystem final : public System {
     return number;
   }
 
-  // Asked once, at the start: asking changes it for a moment.
   const mode_t mask_ = mask_of_process();
 };
 

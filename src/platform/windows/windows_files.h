@@ -1,0 +1,19 @@
+#pragma once
+// Writing files in one step, and appending to them.
+
+#include <string>
+#include <string_view>
+
+#include "core/fault.h"
+
+namespace ecr {
+
+/// See System::replace_file. A file marked read-only is left alone with permission_denied, and so is one that another
+/// process holds for itself; a folder of this name is path_access, a missing folder path_not_found. A link is written
+/// through. The new file keeps the old one's attributes; its rights are those that the folder hands down.
+[[nodiscard]] Fault windows_replace_file(const std::string& path, std::string_view bytes);
+
+/// See System::append_file. While it writes, others may read the file, but not write it.
+[[nodiscard]] Fault windows_append_file(const std::string& path, std::string_view bytes);
+
+}  // namespace ecr
