@@ -1,0 +1,168 @@
+#include "emulator/emulated_register.h"
+
+#include <filesystem>
+#include <system_error>
+#include <thread>
+
+#include "core/files.h"
+#include "core/system.h"
+#include "emulator/tool_codes.h"
+
+namespace ecr {
+namespace {
+
+/// Report 12 of a register that answers by itself: an hour of the day each, nothing sold in any. Whoever asks for it to
+/// test the link looks only whether it came.
+constexpr std::string_view time_report{"\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0", 24};
+
+std::string folder_form(std::string_view host) {
+  std::string folder = backslash_path(host);
+  if (!folder.empty() && folder.back() != '\\') folder += '\\';
+  return folder;
+}
+
+bool missing(const Fault& fault) {
+  return fault.code == FaultCode::file_not_found || fault.code == FaultCode::path_not_found;
+}
+
+bool port_answers(std::uint8_t port, const RegisterSettings& settings) {
+  return port != 0 && port == settings.port();
+}
+
+bool is_report(std::uint8_t file) {
+  return file >= ToolFile::first_report && file <= ToolFile::last_report;
+}
+
+std::string_view text_of(const char* text) {
+  return text == nullptr ? std::string_view{} : std::string_view{text};
+}
+
+}  // namespace
+
+std::int32_t code_of_reading(const Fault& fault) {
+  return fault.code == FaultCode::device_error ? ToolCode::file_not_read : ToolCode::file_not_opened;
+}
+
+std::int32_t code_of_writing(const Fault& fault, bool file_was_there) {
+  const bool failed_midway = fault.code == FaultCode::disk_full || fault.code == FaultCode::device_error;
+  return failed_midway || file_was_there ? ToolCode::file_not_written : ToolCode::file_not_made;
+}
+
+EmulatedRegister::EmulatedRegister(std::string_view application_folder)
+    : given_{application_folder},
+      folder_{folder_form(application_folder)},
+      register_{folder_ + "register\\"},
+      memory_{register_} {}
+
+std::optional<std::int32_t> EmulatedRegister::send_cmd(std::uint8_t direction, std::uint8_t file, std::int32_t timeout,
+                                                       std::uint8_t port) const {
+  const std::string note = "send_cmd folder=" + given_ + " direction=" + std::to_string(direction) +
+                           " file=" + std::to_string(file) + " timeout=" + std::to_string(timeout) +
+                           " port=" + std::to_string(port);
+  return call(note, file, [this, direction, file, port](const RegisterSettings& settings) {
+    if (!port_answers(port, settings)) return ToolCode::port_not_opened;
+    if (direction > 1) return ToolCode::illegal_direction;
+    if (file > ToolFile::release) return ToolCode::no_such_number;
+    return direction == 0 ? upload(file, settings) : download(file);
+  });
+}
+
+std::optional<std::int32_t> EmulatedRegister::range_report(std::uint8_t file, std::int32_t timeout, std::int32_t from,
+                                                           std::int32_t to, std::uint8_t port) const {
+  const std::string note = "range_report folder=" + given_ + " file=" + std::to_string(file) +
+                           " timeout=" + std::to_string(timeout) + " from=" + std::to_string(from) +
+                           " to=" + std::to_string(to) + " port=" + std::to_string(port);
+  return call(note, file, [this, file, from, to, port](const RegisterSettings& settings) {
+    if (!port_answers(port, settings)) return ToolCode::port_not_opened;
+    if (!is_report(file)) return ToolCode::no_such_number;
+    return from > to ? ToolCode::range_reversed : report(file);
+  });
+}
+
+std::optional<std::int32_t> EmulatedRegister::send_logo(const char* bitmap_folder, const char* name,
+                                                        std::int32_t timeout) const {
+  const std::string note = "send_logo source=" + given_ + " target1=" + std::string{text_of(bitmap_folder)} +
+                           " target2=" + std::string{text_of(name)} + " timeout=" + std::to_string(timeout);
+  return call(note, std::nullopt, [bitmap_folder, name](const RegisterSettings& settings) {
+    if (const std::optional<std::int32_t> code = settings.logo_answer()) return *code;
+    if (bitmap_folder == nullptr || name == nullptr) return PictureCode::missing_argument;
+    std::string head;
+    const Fault fault = read_file(folder_form(bitmap_folder) + name, head, 2);
+    if (fault.stands()) {
+      return code_of_reading(fault) == ToolCode::file_not_read ? PictureCode::not_read : PictureCode::not_opened;
+    }
+    if (head != "BM") return PictureCode::no_bitmap;
+    // It knows the form of no logo yet.
+    return PictureCode::unknown_type;
+  });
+}
+
+/// What every call goes through before its own work begins, if it comes to that.
+std::optional<std::int32_t> EmulatedRegister::call(const std::string& note, std::optional<std::uint8_t> file,
+                                                   const Work& work) const {
+  append_to_calls(note);
+  RegisterSettings settings{register_};
+  if (settings.fails(file)) return std::nullopt;
+  std::this_thread::sleep_for(settings.delay());
+  if (settings.hangs(file)) {
+    settings.hang_no_more();
+    // Where there is no such program the call has timed out all the same.
+    static_cast<void>(system_layer().start_minimised(host_path(folder_ + "regwire.exe"), {}));
+    return ToolCode::timeout;
+  }
+  if (const std::int32_t code = settings.answer(file); code != ToolCode::done) return code;
+  return work(settings);
+}
+
+void EmulatedRegister::append_to_calls(const std::string& note) const {
+  const std::string path = host_path(register_ + "calls.txt");
+  std::error_code ignored;
+  // Whoever wants the calls noted makes the file.
+  if (!std::filesystem::is_regular_file(path, ignored)) return;
+  static_cast<void>(system_layer().append_file(path, note + "\n"));
+}
+
+std::int32_t EmulatedRegister::upload(std::uint8_t file, const RegisterSettings& settings) const {
+  if (is_report(file)) return report(file);
+  if (file == ToolFile::release) {
+    const std::string_view name = settings.release_file();
+    return name.empty() ? ToolCode::refused : deliver(name, settings.banner());
+  }
+  std::string bytes;
+  const Fault fault = memory_.fetch(file, bytes);
+  return fault.stands() ? code_of_reading(fault) : deliver(RegisterMemory::file_name(file), bytes);
+}
+
+std::int32_t EmulatedRegister::download(std::uint8_t file) const {
+  if (file > ToolFile::logo) return ToolCode::report_download;
+  const std::string_view name = RegisterMemory::file_name(file);
+  std::string bytes;
+  // One byte more than fits tells a file that is too long.
+  const Fault not_read = read_file(folder_ + "Dati\\" + std::string{name}, bytes, RegisterMemory::longest(file) + 1);
+  if (not_read.stands()) return code_of_reading(not_read);
+  if (!RegisterMemory::fits(file, bytes)) return ToolCode::refused;
+  const bool held_before = file_exists(register_ + std::string{name});
+  const Fault not_held = memory_.hold(file, bytes);
+  return not_held.stands() ? code_of_writing(not_held, held_before) : ToolCode::done;
+}
+
+std::int32_t EmulatedRegister::report(std::uint8_t file) const {
+  std::string bytes;
+  const Fault fault = read_file(register_ + "reports\\" + std::to_string(file) + ".bin", bytes);
+  if (missing(fault)) {
+    if (file != ToolFile::time) return ToolCode::no_such_number;
+    bytes = time_report;
+  } else if (fault.stands()) {
+    return code_of_reading(fault);
+  }
+  return deliver(std::string{report_file_names.at(file - ToolFile::first_report)} + ".bin", bytes);
+}
+
+std::int32_t EmulatedRegister::deliver(std::string_view name, std::string_view bytes) const {
+  const std::string path = folder_ + "Dati\\" + std::string{name};
+  const bool there_before = file_exists(path);
+  const Fault fault = save_file(path, bytes);
+  return fault.stands() ? code_of_writing(fault, there_before) : ToolCode::done;
+}
+
+}  // namespace ecr

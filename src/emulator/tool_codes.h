@@ -1,0 +1,54 @@
+#pragma once
+// Result codes that the emulated register answers with, and the names of what it moves. They are those of the real link
+// library; its description of each code stands in the program's own tables, which this library does not see.
+
+#include <array>
+#include <cstdint>
+#include <string_view>
+
+namespace ecr {
+
+/// Codes of the two calls that reach the register.
+namespace ToolCode {
+inline constexpr std::int32_t done = 0;
+inline constexpr std::int32_t illegal_direction = 514;
+inline constexpr std::int32_t range_reversed = 515;
+inline constexpr std::int32_t no_such_number = 517;
+inline constexpr std::int32_t report_download = 519;
+inline constexpr std::int32_t port_not_opened = 1025;
+inline constexpr std::int32_t file_not_opened = 2049;
+inline constexpr std::int32_t file_not_read = 2050;
+inline constexpr std::int32_t file_not_made = 2051;
+inline constexpr std::int32_t file_not_written = 2052;
+inline constexpr std::int32_t refused = 4098;  ///< by the register itself
+inline constexpr std::int32_t timeout = 9999;
+}  // namespace ToolCode
+
+/// Codes of the call that converts a picture.
+namespace PictureCode {
+inline constexpr std::int32_t missing_argument = 0x04010000;
+inline constexpr std::int32_t not_opened = 0x08010000;
+inline constexpr std::int32_t not_read = 0x08020000;
+inline constexpr std::int32_t no_bitmap = 0x10010000;
+inline constexpr std::int32_t unknown_type = 0x10030000;
+}  // namespace PictureCode
+
+/// File numbers: 0 to 2 are what the register holds, 3 to 21 its reports.
+namespace ToolFile {
+inline constexpr std::uint8_t image = 0;
+inline constexpr std::uint8_t plu = 1;
+inline constexpr std::uint8_t logo = 2;
+inline constexpr std::uint8_t first_report = 3;
+inline constexpr std::uint8_t time = 12;
+inline constexpr std::uint8_t last_report = 21;
+inline constexpr std::uint8_t release = 22;
+}  // namespace ToolFile
+
+/// What a report's file is called, without ".bin"; the first is that of file number 3.
+inline constexpr std::array<std::string_view, 19> report_file_names = {
+    "C-I-D",       "FINANCIAL", "RANGE DEPT", "DEPT GROUP", "ALL PLU",    "RANGE PLU", "ALL CLERK",
+    "ALL T-CLERK", "NT-CLERK",  "TIME",       "TRAINING",   "FINANCIAL2", "OPEN TBL",  "FULL EJ",
+    "OLD EJ",      "LATE EJ",   "DAILY EJ",   "ASK",        "MSK"};
+static_assert(report_file_names.size() == ToolFile::last_report - ToolFile::first_report + 1);
+
+}  // namespace ecr
