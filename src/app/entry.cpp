@@ -1,0 +1,84 @@
+#include "app/entry.h"
+
+#include <QEvent>
+#include <QIcon>
+#include <QTimer>
+
+#include "core/catalogue.h"
+#include "core/files.h"
+#include "core/global.h"
+#include "core/text.h"
+#include "editors/program/frm_department_program.h"
+#include "editors/program/frm_set_vat_rate.h"
+#include "image/side_files.h"
+#include "lang/language.h"
+#include "screens/frm_pres.h"
+#include "screens/frm_program_mode.h"
+#include "screens/frm_setting_mode.h"
+#include "screens/screen_factory.h"
+#include "widgets/controls.h"
+#include "widgets/screen.h"
+#include "widgets/screen_text.h"
+
+namespace ecr {
+namespace {
+
+template <typename AnyScreen>
+void register_one(const char* name) {
+  register_screen(QString::fromLatin1(name), [] { return new AnyScreen; });
+}
+
+/// Runs the first search for the port when the start screen has been painted, so that it can be seen doing so.
+class BehindFirstPaint : public QObject {
+ public:
+  explicit BehindFirstPaint(FrmPres& screen) : QObject{&screen}, screen_{screen} { screen.installEventFilter(this); }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Paint) {
+      screen_.removeEventFilter(this);
+      QTimer::singleShot(0, &screen_, [&screen = screen_] { screen.first_discovery(); });
+      deleteLater();
+    }
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  FrmPres& screen_;
+};
+
+}  // namespace
+
+void register_screens() {
+  register_one<FrmProgramMode>("FrmProgramMode");
+  register_one<FrmSettingMode>("FrmSettingMode");
+  register_one<FrmSetVatRate>("FrmSetVatRate");
+  register_one<FrmDepartmentProgram>("FrmDepartmentProgram");
+}
+
+void Main(Stage& stage, const QString& application_folder, const QString& command_line) {
+  register_screens();
+  Global::set_folders(backslash_path(path_of_toolkit(application_folder)));
+  const std::string words = upper_ascii(command_line.toStdString());
+  Global::DebugMode = words == "DEBUG";
+  Global::crea_cartelle();
+  Read_Language();
+  selezione_lingua(LanguageNumber);
+  carica_messaggi_default();
+
+  QIcon icon;
+  for (const char* file : {"vermanto-16.png", "vermanto-32.png", "vermanto-48.png", "vermanto.png"}) {
+    icon.addFile(setup_file(QString::fromLatin1(file)));
+  }
+  stage.setWindowIcon(icon);
+  auto* start = new FrmPres;
+  stage.open(start);
+  if (words == "STOP") {
+    start->first_discovery();
+    start->unload();
+  }
+  new BehindFirstPaint{*start};
+  stage.show();
+}
+
+}  // namespace ecr

@@ -1,0 +1,163 @@
+#include "widgets/choice_list.h"
+
+#include <algorithm>
+
+#include <QAbstractItemView>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+#include "core/codecs.h"
+#include "core/decimal.h"
+#include "widgets/screen_text.h"
+
+namespace ecr {
+namespace {
+
+bool types_a_character(const QKeyEvent& event) {
+  const bool is_command = (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
+  return !is_command && !event.text().isEmpty() && event.text().front().isPrint();
+}
+
+bool is_digit_key(const QKeyEvent& event) {
+  return event.text().size() == 1 && event.text().front() >= u'0' && event.text().front() <= u'9';
+}
+
+/// Whether a key can have changed the number in the list's own field.
+bool edits_the_number(const QKeyEvent& event) {
+  return is_digit_key(event) || event.key() == Qt::Key_Backspace || event.key() == Qt::Key_Delete ||
+         event.matches(QKeySequence::Paste) || event.matches(QKeySequence::Cut);
+}
+
+}  // namespace
+
+ChoiceList::ChoiceList(const QString& name, QWidget* parent, Typing typing) : QComboBox{parent}, typing_{typing} {
+  setObjectName(name);
+  setMaxVisibleItems(16);
+  connect(this, &QComboBox::activated, this, [this] {
+    if (click_) click_();
+  });
+}
+
+void ChoiceList::fill(const QStringList& entries) {
+  clear();
+  addItems(entries);
+  show_nothing();
+}
+
+void ChoiceList::show_text(const QString& text) {
+  const int index = findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
+  setPlaceholderText(index < 0 ? text : QString{});
+  setCurrentIndex(index);
+}
+
+bool ChoiceList::show_number(int number) {
+  for (int index = 0; index < count(); ++index) {
+    if (ottieni_numero(page_bytes(itemText(index)), ".") != number) continue;
+    setPlaceholderText({});
+    setCurrentIndex(index);
+    return true;
+  }
+  return false;
+}
+
+void ChoiceList::show_nothing() {
+  show_text({});
+}
+
+QString ChoiceList::text() const {
+  return currentIndex() < 0 ? placeholderText() : currentText();
+}
+
+std::uint8_t ChoiceList::number() const {
+  return ottieni_numero(page_bytes(text()), ".");
+}
+
+void ChoiceList::keyPressEvent(QKeyEvent* event) {
+  if (typing_ == Typing::dropped && types_a_character(*event)) {
+    event->accept();
+    return;
+  }
+  QComboBox::keyPressEvent(event);
+}
+
+void ChoiceList::showPopup() {
+  // The list that drops down would look for an entry that begins with what is typed.
+  view()->installEventFilter(this);
+  QComboBox::showPopup();
+}
+
+bool ChoiceList::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress && typing_ == Typing::dropped &&
+      types_a_character(static_cast<const QKeyEvent&>(*event))) {
+    return true;
+  }
+  return QComboBox::eventFilter(watched, event);
+}
+
+NumberList::NumberList(const QString& name, int last, QWidget* parent) : QComboBox{parent}, last_{last} {
+  setObjectName(name);
+  setEditable(true);
+  setInsertPolicy(QComboBox::NoInsert);
+  setCompleter(nullptr);
+  setMaxVisibleItems(16);
+  connect(this, &QComboBox::activated, this, [this] {
+    if (click_ && number() > 0) click_(number());
+  });
+}
+
+void NumberList::fill() {
+  clear();
+  QStringList numbers;
+  numbers.reserve(last_);
+  for (int number = 1; number <= last_; ++number) numbers.append(QString::number(number));
+  addItems(numbers);
+}
+
+void NumberList::show_number(int number) {
+  setCurrentIndex(number - 1);
+  setEditText(QString::number(number));
+}
+
+int NumberList::number() const {
+  return static_cast<int>(std::clamp<std::int64_t>(leading_number(page_bytes(currentText())), 0, 1'000'000));
+}
+
+// The list itself has the focus and hands keys on to its field.
+void NumberList::keyPressEvent(QKeyEvent* event) {
+  if (types_a_character(*event) && !is_digit_key(*event)) {
+    event->accept();
+    return;
+  }
+  QComboBox::keyPressEvent(event);
+}
+
+void NumberList::keyReleaseEvent(QKeyEvent* event) {
+  QComboBox::keyReleaseEvent(event);
+  if (edits_the_number(*event)) typed();
+}
+
+void NumberList::focusInEvent(QFocusEvent* event) {
+  QComboBox::focusInEvent(event);
+  const bool moved_here = event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason;
+  if (moved_here) QMetaObject::invokeMethod(lineEdit(), &QLineEdit::selectAll, Qt::QueuedConnection);
+}
+
+void NumberList::typed() {
+  if (number() > last_) setEditText(QString::number(last_));
+  // The arrow keys go on from the number that was typed.
+  const int index = findText(currentText());
+  if (index >= 0 && index != currentIndex()) {
+    const int cursor = lineEdit()->cursorPosition();
+    setCurrentIndex(index);
+    lineEdit()->setCursorPosition(cursor);
+  }
+  // An emptied list, or a 0, names no record: the one on screen stays.
+  if (click_ && number() > 0) click_(number());
+}
+
+QString label_of(const QString& entry) {
+  const qsizetype blank = entry.indexOf(u' ');
+  return blank < 0 ? entry : entry.mid(blank + 1);
+}
+
+}  // namespace ecr

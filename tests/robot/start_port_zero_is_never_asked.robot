@@ -1,0 +1,6 @@
+# A device called COM0 fails without a call, and the search goes on.
+register devices "Odd adapter (COM0)" "USB Serial Port (COM4)"
+start
+expect E_ComPort 4
+expect-calls 1
+expect-call 1 "send_cmd folder=. direction=0 file=12 timeout=2 port=4"

@@ -1,0 +1,113 @@
+# The guided tour: the main job from the first screen to the register holding the new bytes, with a picture of each screen
+# on both models. The pictures lie in pictures/ below the application folder.
+
+# The start screen finds the emulated register on its port.
+start
+screen FrmPres
+expect E_ComPort 4
+expect-colour E_ComPort green
+picture pictures/z320/01-start.png
+click C_LinguaSel
+screen FrmLanguage
+picture pictures/z320/02-language.png
+click C_Annulla
+
+# The model, and the register's programming.
+click C_Z320
+screen FrmPrincipale
+expect-like L_Release_Fw "ECRZ300/ECRZ320F*"
+picture pictures/z320/03-main-menu.png
+click C_ModificaProgrammazione
+picture pictures/z320/04-question.png
+box plain * Yes
+screen FrmSetup
+expect-same register/PRG_MODE.BIN Dati/PRG_MODE.BIN
+expect-same register/PRG_PLU.BIN Dati/PRG_PLU.BIN
+copy Dati/PRG_MODE.BIN before.bin
+picture pictures/z320/05-setup.png
+click C_SettingMode
+screen FrmSettingMode
+picture pictures/z320/06-setting-mode.png
+click C_Exit
+click C_ProgramMode
+screen FrmProgramMode
+picture pictures/z320/07-program-mode.png
+
+# A VAT rate is corrected: 22.5 %.
+click C_SetVatRate
+screen FrmSetVatRate
+picture pictures/z320/08-vat-rates.png
+paste E_VatRate(1) 22500
+picture pictures/z320/09-vat-rate-typed.png
+key Enter
+expect-focus C_Salva
+expect E_VatRate(1) "22.5 %"
+key Enter
+expect-bytes Dati/PRG_MODE.BIN 38 00250200
+expect-different register/PRG_MODE.BIN Dati/PRG_MODE.BIN
+click C_Annulla
+
+# A walk through the departments, by Enter and typing.
+click C_DepartmentProgram
+screen FrmDepartmentProgram
+expect Cmb_DepartmentNumber 1
+picture pictures/z320/10-departments.png
+type E_DeptName "Coffee & tea"
+focus E_Price
+type E_Price 250
+choose Cmb_PriceType "2. Preset"
+picture pictures/z320/11-department-changed.png
+click C_Salva
+expect Cmb_DepartmentNumber 2
+expect-cell Fg_Department 1 1 "Coffee & tea"
+expect-cell Fg_Department 1 8 2.50
+row Fg_Department 7
+expect Cmb_DepartmentNumber 7
+click C_Salva
+expect Cmb_DepartmentNumber 8
+picture pictures/z320/12-next-department.png
+
+# What was saved goes to the register, and the register holds exactly that.
+click C_Invia_Ecr
+nobox
+expect-same register/PRG_MODE.BIN Dati/PRG_MODE.BIN
+expect-same register/PRG_PLU.BIN Dati/PRG_PLU.BIN
+expect-different register/PRG_MODE.BIN before.bin
+expect-bytes register/PRG_MODE.BIN 38 00250200
+expect-bytes register/PRG_MODE.BIN 329 436F6666656520262074656108020101
+expect-enabled C_Salva yes
+click C_Annulla
+screen FrmProgramMode
+click C_Exit
+click C_Exit
+click C_Back
+screen FrmPres
+click C_Exit
+expect-ended
+
+# The same screens with the other model.
+register model Z300
+start
+expect E_ComPort 4
+picture pictures/z300/01-start.png
+click C_Z300
+screen FrmPrincipale
+picture pictures/z300/03-main-menu.png
+click C_ModificaProgrammazione
+box plain * Yes
+screen FrmSetup
+picture pictures/z300/05-setup.png
+click C_SettingMode
+picture pictures/z300/06-setting-mode.png
+expect-visible C_Hospitality_Setup no
+click C_Exit
+click C_ProgramMode
+picture pictures/z300/07-program-mode.png
+expect-visible C_PluPageProgram no
+click C_SetVatRate
+picture pictures/z300/08-vat-rates.png
+click C_Annulla
+click C_DepartmentProgram
+picture pictures/z300/10-departments.png
+close
+screen FrmProgramMode
