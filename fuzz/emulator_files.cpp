@@ -1,0 +1,67 @@
+// The emulated register is sent files of any bytes: it holds exactly what it took, and hands back what it holds.
+
+#include <array>
+
+#include "core/files.h"
+#include "core/global.h"
+#include "emulator/emulated_register.h"
+#include "emulator/memory.h"
+#include "emulator/tool_codes.h"
+#include "support/installation.h"
+
+namespace {
+
+using namespace ecr;
+using namespace ecr::fuzz;
+
+constexpr std::uint8_t port = 4;
+
+void send_and_fetch(const Installation& installation, const EmulatedRegister& machine, std::uint8_t number,
+                    const std::string& file) {
+  const std::string name{RegisterMemory::file_name(number)};
+  const std::string held = "register/" + name;
+  const std::string moved = "Dati/" + name;
+  installation.write(held, "what it held before");
+  installation.write(moved, file);
+
+  const auto sent = machine.send_cmd(1, number, 1, port);
+  require(sent.has_value(), "the call is made");
+  require(*sent == (RegisterMemory::fits(number, file) ? ToolCode::done : ToolCode::refused),
+          "what fits is taken, all else refused");
+  const bool taken = *sent == ToolCode::done;
+  require(installation.bytes(held) == (taken ? file : "what it held before"), "it holds what it took, byte for byte");
+  require(installation.bytes(moved) == file, "what was sent stays as it is");
+  require(file.size() <= RegisterMemory::longest(number) || !taken, "nothing too long is taken");
+
+  // Whatever stands in its folder is handed over, also what it would not have taken.
+  installation.write(held, file);
+  installation.remove(moved);
+  require(machine.send_cmd(0, number, 1, port) == ToolCode::done, "what it holds can be fetched");
+  require(installation.bytes(moved) == file, "and comes byte for byte");
+  installation.remove(held);
+  installation.remove(moved);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  static Installation installation;
+  static const EmulatedRegister machine{host_path(Global::PathApp)};
+  const std::string file = file_of(data, size);
+  for (const std::uint8_t number : {ToolFile::image, ToolFile::plu, ToolFile::logo}) {
+    send_and_fetch(installation, machine, number, file);
+  }
+
+  // A report is any bytes, a bitmap too.
+  installation.write("register/reports/12.bin", file);
+  require(machine.send_cmd(0, ToolFile::time, 1, port) == ToolCode::done, "a report can be fetched");
+  require(installation.bytes("Dati/TIME.bin") == file, "and comes byte for byte");
+  installation.remove("register/reports");
+  installation.remove("Dati/TIME.bin");
+  installation.write("Dati/logo.bmp", file);
+  const auto converted = machine.send_logo(installation.host("Dati/").c_str(), "logo.bmp", 1);
+  require(converted.has_value(), "any bitmap has an answer");
+  installation.remove("Dati/logo.bmp");
+  installation.remove("Dati/GRAPHIC.BIN");
+  return 0;
+}
