@@ -16,7 +16,7 @@
 #include "screens/frm_program_mode.h"
 #include "screens/frm_setting_mode.h"
 #include "screens/screen_factory.h"
-#include "widgets/controls.h"
+#include "widgets/pictures.h"
 #include "widgets/screen.h"
 #include "widgets/screen_text.h"
 
@@ -28,7 +28,16 @@ void register_one(const char* name) {
   register_screen(QString::fromLatin1(name), [] { return new AnyScreen; });
 }
 
-/// Runs the first search for the port when the start screen has been painted, so that it can be seen doing so.
+QIcon window_icon() {
+  QIcon icon;
+  for (const char* file : {"vermanto-16.png", "vermanto-32.png", "vermanto-48.png", "vermanto.png"}) {
+    icon.addFile(setup_file(QString::fromLatin1(file)));
+  }
+  return icon;
+}
+
+/// Does what can wait until the start screen is to be seen: it reads the window's icon, and searches for the port,
+/// whose colours the screen shows.
 class BehindFirstPaint : public QObject {
  public:
   explicit BehindFirstPaint(FrmPres& screen) : QObject{&screen}, screen_{screen} { screen.installEventFilter(this); }
@@ -37,7 +46,10 @@ class BehindFirstPaint : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::Paint) {
       screen_.removeEventFilter(this);
-      QTimer::singleShot(0, &screen_, [&screen = screen_] { screen.first_discovery(); });
+      QTimer::singleShot(0, &screen_, [&screen = screen_] {
+        screen.window()->setWindowIcon(window_icon());
+        screen.first_discovery();
+      });
       deleteLater();
     }
     return QObject::eventFilter(watched, event);
@@ -64,13 +76,11 @@ void Main(Stage& stage, const QString& application_folder, const QString& comman
   Global::crea_cartelle();
   Read_Language();
   selezione_lingua(LanguageNumber);
+  read_pictures_ahead(
+      {"ECRZ300.png", "ECRZ320.png", "Logo_Angolo.jpg", "vermanto.bmp", "help.png", FlagPicture.c_str()},
+      stage.devicePixelRatioF());
   carica_messaggi_default();
 
-  QIcon icon;
-  for (const char* file : {"vermanto-16.png", "vermanto-32.png", "vermanto-48.png", "vermanto.png"}) {
-    icon.addFile(setup_file(QString::fromLatin1(file)));
-  }
-  stage.setWindowIcon(icon);
   auto* start = new FrmPres;
   stage.open(start);
   if (words == "STOP") {

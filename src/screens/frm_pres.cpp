@@ -24,7 +24,7 @@ namespace {
 
 constexpr int timer_interval_ms = 3000;
 constexpr int blanks_in_title = 92;
-const QSize model_picture{300, 225};
+const QSize model_picture{320, 240};
 
 }  // namespace
 
@@ -53,8 +53,8 @@ FrmPres::FrmPres()
   Captions::fix(*C_Z320, "ECRZ320");
   Captions::fix(*C_LinguaSel, "Language Selection");
 
-  L_Titolo2->setProperty("heading", true);
-  L_Emulated->setProperty("hint", true);
+  make_heading(*L_Titolo2);
+  make_hint(*L_Emulated);
   L_Emulated->setWordWrap(true);
   E_ComPort->let_in(Field::Keys::digits);
   E_ComPort->setFixedWidth(64);

@@ -17,6 +17,7 @@
 #include "screens/frm_setup.h"
 #include "screens/screen_factory.h"
 #include "widgets/field.h"
+#include "widgets/look.h"
 #include "widgets/screen_text.h"
 
 namespace ecr {
@@ -64,7 +65,7 @@ FrmPrincipale::FrmPrincipale(const QString& port_text)
                 "UPDATE CASH REGISTER PROGRAMMING");
   captions_.add(*C_Logo, Key::FRM_PRINCIPALE_C_LOGO, "SET UP A LOGO");
   captions_.add(*C_Back, Key::FRM_PRINCIPALE_C_BACK, "BACK");
-  L_Release_Fw->setProperty("hint", true);
+  make_hint(*L_Release_Fw);
 
   frame_.body->addStretch(1);
   for (CommandButton* button : {C_NuovaProgrammazione, C_ModificaProgrammazione, C_Logo}) {

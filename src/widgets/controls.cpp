@@ -2,13 +2,12 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QShortcutEvent>
 #include <QStyleOptionButton>
-#include <QStylePainter>
 
-#include "core/files.h"
-#include "core/global.h"
-#include "widgets/screen_text.h"
+#include "widgets/look.h"
+#include "widgets/pictures.h"
 
 namespace ecr {
 namespace {
@@ -56,12 +55,10 @@ PictureButton::PictureButton(const QString& name, const QString& picture, QSize 
 }
 
 void PictureButton::paintEvent(QPaintEvent*) {
-  QStylePainter painter{this};
-  QStyleOptionButton frame;
-  initStyleOption(&frame);
-  frame.text.clear();
-  frame.icon = {};
-  painter.drawControl(QStyle::CE_PushButton, frame);
+  QPainter painter{this};
+  QStyleOptionButton button;
+  initStyleOption(&button);
+  draw_card(painter, button);
 
   const int text_height = fontMetrics().height();
   const int gap = 14;
@@ -86,6 +83,14 @@ void Picture::on_click(std::function<void()> handler) {
   setCursor(Qt::PointingHandCursor);
 }
 
+void Picture::paintEvent(QPaintEvent* event) {
+  QLabel::paintEvent(event);
+  if (hasFocus()) {
+    QPainter painter{this};
+    draw_focus(painter, rect());
+  }
+}
+
 void Picture::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()) && click_) click_();
 }
@@ -98,18 +103,6 @@ void Picture::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-QPixmap setup_pixmap(const QString& file, QSize size, qreal ratio) {
-  QPixmap pixmap{setup_file(file)};
-  if (ratio > 1) {
-    const QPixmap fine{setup_file(QString{file}.insert(file.lastIndexOf(u'.'), QStringLiteral("@2x")))};
-    if (!fine.isNull()) pixmap = fine;
-  }
-  if (pixmap.isNull()) return pixmap;
-  pixmap = pixmap.scaled(size * ratio, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-  pixmap.setDevicePixelRatio(ratio);
-  return pixmap;
-}
-
 QLabel* make_label(const QString& name, QWidget* parent, QWidget* field) {
   auto* label = new QLabel{parent};
   label->setObjectName(name);
@@ -120,10 +113,6 @@ QLabel* make_label(const QString& name, QWidget* parent, QWidget* field) {
 
 QString member_name(const char* array, int index) {
   return QString::fromLatin1(array) + u'(' + QString::number(index) + u')';
-}
-
-QString setup_file(const QString& name) {
-  return path_for_toolkit(host_path(Global::PathSetup)) + name;
 }
 
 }  // namespace ecr

@@ -56,6 +56,7 @@ class Picture : public QLabel {
   void on_click(std::function<void()> handler);
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
@@ -66,13 +67,7 @@ class Picture : public QLabel {
 /// A label with its control's name. With a `field` it names that field: for the letter marks and for who listens.
 [[nodiscard]] QLabel* make_label(const QString& name, QWidget* parent, QWidget* field = nullptr);
 
-/// A picture file of PathSetup in a size for this screen: the "@2x" variant where the screen is finer and there is one.
-[[nodiscard]] QPixmap setup_pixmap(const QString& file, QSize size, qreal ratio);
-
 /// "E_VatRate(1)": the name of a member of a control array.
 [[nodiscard]] QString member_name(const char* array, int index);
-
-/// The host's path of a file in PathSetup.
-[[nodiscard]] QString setup_file(const QString& name);
 
 }  // namespace ecr

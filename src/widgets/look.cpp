@@ -1,9 +1,16 @@
 #include "widgets/look.h"
 
+#include <cmath>
+
 #include <QApplication>
 #include <QFont>
+#include <QLabel>
+#include <QPainter>
 #include <QPalette>
+#include <QPixmap>
 #include <QStyleFactory>
+#include <QStyleOption>
+#include <qdrawutil.h>
 
 namespace ecr {
 namespace {
@@ -87,9 +94,6 @@ QHeaderView::section { background: @window; color: @muted; border: none; border-
 QGroupBox { border: 1px solid @line; border-radius: 8px; margin-top: 10px; padding-top: 6px; }
 QGroupBox::title { subcontrol-origin: margin; left: 12px; padding: 0 4px; color: @muted; }
 QGroupBox#F_Titolo, QGroupBox#Frame1 { border: none; margin: 0; padding: 0; }
-QLabel[heading="true"] { font-size: 17pt; font-weight: 600; }
-QLabel[hint="true"] { color: @muted; }
-Picture:focus { border: 2px solid @accent; border-radius: 4px; }
 QWidget#WaitCard { background: @base; border: 1px solid @line; border-radius: 10px; }
 QScrollBar:vertical { background: transparent; width: 12px; margin: 2px; }
 QScrollBar:horizontal { background: transparent; height: 12px; margin: 2px; }
@@ -143,6 +147,55 @@ QColor text_red() {
 }
 QColor text_plain() {
   return colours->text;
+}
+
+void make_heading(QLabel& label) {
+  QFont font = label.font();
+  font.setPointSizeF(17);
+  font.setWeight(QFont::DemiBold);
+  label.setFont(font);
+}
+
+void make_hint(QLabel& label) {
+  QPalette palette = label.palette();
+  palette.setColor(QPalette::WindowText, colours->muted);
+  label.setPalette(palette);
+}
+
+void draw_focus(QPainter& painter, const QRect& place) {
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen{colours->accent, 2});
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRoundedRect(QRectF{place}.adjusted(1, 1, -1, -1), 3, 3);
+}
+
+void draw_card(QPainter& painter, const QStyleOption& button) {
+  // Its corners are drawn smoothly, small, and the rest is stretched: smooth lines of that length take the toolkit much
+  // longer than all else on the screen.
+  constexpr double radius = 6;
+  constexpr int corner = 8;
+  constexpr int side = 2 * corner + 1;
+  const bool focused = button.state.testFlag(QStyle::State_HasFocus);
+  const int width = focused ? 2 : 1;
+  const QColor& ground = button.state.testFlag(QStyle::State_Sunken)      ? colours->line
+                         : button.state.testFlag(QStyle::State_MouseOver) ? colours->button_hover
+                                                                          : colours->button;
+  const qreal ratio = painter.device()->devicePixelRatioF();
+  const int pixels = static_cast<int>(std::lround(side * ratio));
+  const int corner_pixels = (pixels - 1) / 2;
+  QPixmap patch{pixels, pixels};
+  patch.fill(Qt::transparent);
+  QPainter drawing{&patch};
+  drawing.setRenderHint(QPainter::Antialiasing);
+  drawing.scale(pixels / static_cast<double>(side), pixels / static_cast<double>(side));
+  drawing.setPen(QPen{focused ? colours->accent : colours->line, static_cast<double>(width)});
+  drawing.setBrush(ground);
+  const double inset = width / 2.0;
+  drawing.drawRoundedRect(QRectF{0, 0, side, side}.adjusted(inset, inset, -inset, -inset), radius - inset,
+                          radius - inset);
+  drawing.end();
+  qDrawBorderPixmap(&painter, button.rect, {corner, corner, corner, corner}, patch, patch.rect(),
+                    {corner_pixels, corner_pixels, corner_pixels, corner_pixels});
 }
 
 }  // namespace ecr

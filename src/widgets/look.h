@@ -4,6 +4,10 @@
 #include <QColor>
 
 class QApplication;
+class QLabel;
+class QPainter;
+class QRect;
+class QStyleOption;
 
 namespace ecr {
 
@@ -18,5 +22,15 @@ void apply_look(QApplication& application, Scheme scheme);
 [[nodiscard]] QColor text_green();
 [[nodiscard]] QColor text_red();
 [[nodiscard]] QColor text_plain();
+
+// The labels have no rule in the style sheet: matching it costs each of them more than all else it does.
+void make_heading(QLabel& label);
+void make_hint(QLabel& label);
+
+/// The edge around what has the focus and no edge of its own.
+void draw_focus(QPainter& painter, const QRect& place);
+
+/// The empty surface of a large button, as the style sheet draws smaller ones.
+void draw_card(QPainter& painter, const QStyleOption& button);
 
 }  // namespace ecr

@@ -4,6 +4,7 @@
 #include <QShortcut>
 
 #include "widgets/help.h"
+#include "widgets/look.h"
 
 namespace ecr {
 
@@ -20,7 +21,7 @@ ScreenFrame::ScreenFrame(Screen& screen, Corner corner)
   whole->addLayout(body, 1);
   body->setSpacing(12);
 
-  L_Titolo->setProperty("heading", true);
+  make_heading(*L_Titolo);
   top->addWidget(L_Titolo, 1);
   if (corner == Corner::picture) {
     corner_ = new Picture{QStringLiteral("I_Corner"), &screen};

@@ -39,17 +39,29 @@ void PrintTo(const Picture& picture, std::ostream* out) {
 
 constexpr QSize flag_size{48, 32};
 
-const std::array<Picture, 21> pictures = {{
-    {"Logo_Angolo.gif", "gif", {160, 100}, true}, {"Logo_Angolo.jpg", "jpeg", {320, 200}, true},
-    {"vermanto.bmp", "bmp", {344, 76}, true},     {"UK.gif", "gif", flag_size, true},
-    {"Spain.gif", "gif", flag_size, true},        {"France.gif", "gif", flag_size, true},
-    {"Germany.gif", "gif", flag_size, true},      {"Netherlands.gif", "gif", flag_size, true},
-    {"Portugal.gif", "gif", flag_size, true},     {"Denmark.gif", "gif", flag_size, true},
-    {"Norway.gif", "gif", flag_size, true},       {"ECRZ300.png", "png", {320, 240}, false},
-    {"ECRZ300@2x.png", "png", {640, 480}, false}, {"ECRZ320.png", "png", {320, 240}, false},
-    {"ECRZ320@2x.png", "png", {640, 480}, false}, {"help.png", "png", {24, 24}, false},
-    {"help@2x.png", "png", {48, 48}, false},      {"vermanto.png", "png", {256, 256}, false},
-    {"vermanto-48.png", "png", {48, 48}, false},  {"vermanto-32.png", "png", {32, 32}, false},
+const std::array<Picture, 23> pictures = {{
+    {"Logo_Angolo.gif", "gif", {160, 100}, true},
+    {"Logo_Angolo.jpg", "jpeg", {112, 70}, true},
+    {"Logo_Angolo@2x.jpg", "jpeg", {224, 140}, true},
+    {"vermanto.bmp", "bmp", {172, 38}, true},
+    {"vermanto@2x.bmp", "bmp", {344, 76}, true},
+    {"UK.gif", "gif", flag_size, true},
+    {"Spain.gif", "gif", flag_size, true},
+    {"France.gif", "gif", flag_size, true},
+    {"Germany.gif", "gif", flag_size, true},
+    {"Netherlands.gif", "gif", flag_size, true},
+    {"Portugal.gif", "gif", flag_size, true},
+    {"Denmark.gif", "gif", flag_size, true},
+    {"Norway.gif", "gif", flag_size, true},
+    {"ECRZ300.png", "png", {320, 240}, false},
+    {"ECRZ300@2x.png", "png", {640, 480}, false},
+    {"ECRZ320.png", "png", {320, 240}, false},
+    {"ECRZ320@2x.png", "png", {640, 480}, false},
+    {"help.png", "png", {24, 24}, false},
+    {"help@2x.png", "png", {48, 48}, false},
+    {"vermanto.png", "png", {256, 256}, false},
+    {"vermanto-48.png", "png", {48, 48}, false},
+    {"vermanto-32.png", "png", {32, 32}, false},
     {"vermanto-16.png", "png", {16, 16}, false},
 }};
 
@@ -147,9 +159,10 @@ TEST_F(Pictures, EveryLanguageHasAFlagOfItsOwn) {
 }
 
 TEST_F(Pictures, AFinerPictureShowsTheSameAsItsCoarseOne) {
-  for (const std::string name : {"ECRZ300", "ECRZ320", "help"}) {
-    const QImage coarse = read(name + ".png").convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    const QImage fine = read(name + "@2x.png").convertToFormat(QImage::Format_ARGB32_Premultiplied);
+  for (const std::string name : {"ECRZ300.png", "ECRZ320.png", "help.png", "vermanto.bmp", "Logo_Angolo.jpg"}) {
+    const QImage coarse = read(name).convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    const QImage fine =
+        read(std::string{name}.insert(name.find('.'), "@2x")).convertToFormat(QImage::Format_ARGB32_Premultiplied);
     ASSERT_EQ(fine.size(), coarse.size() * 2) << name;
     const QImage shrunk = fine.scaled(coarse.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     qint64 difference = 0;

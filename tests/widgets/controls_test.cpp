@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QFile>
-
 #include "support_qt/screen_test.h"
 #include "widgets/plain_screen.h"
 
@@ -100,23 +98,6 @@ TEST_F(ControlsTest, AMissingPictureLeavesItsPlaceEmpty) {
   write("Setup/broken.gif", "no picture");
   picture.show_file(QStringLiteral("broken.gif"), {36, 24});
   EXPECT_TRUE(picture.pixmap(Qt::ReturnByValue).isNull());
-}
-
-TEST_F(ControlsTest, AFinerScreenTakesTheFinerPicture) {
-  QImage coarse{10, 10, QImage::Format_RGB32};
-  coarse.fill(Qt::red);
-  QImage fine{20, 20, QImage::Format_RGB32};
-  fine.fill(Qt::blue);
-  ASSERT_TRUE(coarse.save(setup_file(QStringLiteral("x.png"))));
-  ASSERT_TRUE(fine.save(setup_file(QStringLiteral("x@2x.png"))));
-  const auto colour = [](qreal ratio) {
-    return setup_pixmap(QStringLiteral("x.png"), {10, 10}, ratio).toImage().pixelColor(3, 3);
-  };
-  EXPECT_EQ(colour(1), QColor(Qt::red));
-  EXPECT_EQ(colour(2), QColor(Qt::blue));
-  EXPECT_EQ(setup_pixmap(QStringLiteral("x.png"), {10, 10}, 2).deviceIndependentSize(), QSizeF(10, 10));
-  ASSERT_TRUE(QFile::remove(setup_file(QStringLiteral("x@2x.png"))));
-  EXPECT_EQ(colour(2), QColor(Qt::red)) << "without the finer one the other is enlarged";
 }
 
 TEST(MemberName, CarriesTheIndexInBrackets) {

@@ -176,8 +176,9 @@ QImage draw_help(int scale) {
   return canvas.image();
 }
 
-QImage draw_word_mark() {
-  Canvas canvas(344, 76, 1, palette::accent);
+QImage draw_word_mark(int scale) {
+  Canvas canvas(172, 38, scale, palette::accent);
+  canvas.painter().scale(0.5, 0.5);
   draw_mark(canvas, {20, 16, 50, 44}, {.teeth = 4});
   Lettering letters(canvas, {79, 56.75}, 28, 6.5);
   letters.write_e();
@@ -196,9 +197,10 @@ QImage draw_word_mark() {
   return canvas.image();
 }
 
-QImage draw_corner(int scale) {
-  Canvas canvas(160, 100, scale, palette::accent);
+QImage draw_corner(int width, int scale) {
+  Canvas canvas(width, width * 5 / 8, scale, palette::accent);
   QPainter& painter = canvas.painter();
+  painter.scale(width / 160.0, width / 160.0);
 
   canvas.disc({128, 8}, 62, palette::accent_deep);
 

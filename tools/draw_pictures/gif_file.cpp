@@ -8,27 +8,12 @@
 #include <vector>
 
 #include <QFile>
-#include <QHash>
 #include <QList>
+
+#include "few_colours.h"
 
 namespace ecr {
 namespace {
-
-constexpr qsizetype most_colours = 256;
-
-/// The colours of the image, the most frequent first, those beyond the 256th left out. Between equally frequent ones
-/// the value decides, so that a drawing always makes the same file.
-QList<QRgb> colours_of(const QImage& image) {
-  QHash<QRgb, int> counts;
-  for (int y = 0; y < image.height(); ++y) {
-    for (int x = 0; x < image.width(); ++x) ++counts[image.pixel(x, y)];
-  }
-  QList<QRgb> colours = counts.keys();
-  std::sort(colours.begin(), colours.end(),
-            [&](QRgb a, QRgb b) { return counts[a] != counts[b] ? counts[a] > counts[b] : a < b; });
-  colours.resize(std::min(colours.size(), most_colours));
-  return colours;
-}
 
 using ColourMap = std::unique_ptr<ColorMapObject, decltype(&GifFreeMapObject)>;
 
@@ -49,9 +34,8 @@ int write_bytes(GifFileType* file, const GifByteType* bytes, int count) {
 }
 
 bool put_image(GifFileType* file, const QImage& image) {
-  const QList<QRgb> colours = colours_of(image);
-  QImage indexed = image.convertToFormat(QImage::Format_Indexed8, colours, Qt::ThresholdDither | Qt::AvoidDither);
-  const ColourMap map = map_of(colours);
+  QImage indexed = few_colours(image);
+  const ColourMap map = map_of(indexed.colorTable());
   if (!map) return false;
   if (EGifPutScreenDesc(file, image.width(), image.height(), 8, 0, map.get()) == GIF_ERROR) return false;
   if (EGifPutImageDesc(file, 0, 0, image.width(), image.height(), false, nullptr) == GIF_ERROR) return false;

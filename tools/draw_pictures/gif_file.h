@@ -6,8 +6,7 @@
 
 namespace ecr {
 
-/// The 256 most frequent colours are kept exactly, so that a plane of one colour keeps it; any other becomes the
-/// nearest of them. Answers whether the whole file was written.
+/// In few colours. Answers whether the whole file was written.
 [[nodiscard]] bool write_gif(const QImage& image, const QString& path);
 
 }  // namespace ecr

@@ -9,8 +9,8 @@ namespace ecr {
 QImage draw_icon(int side);   ///< the program's icon, `side` pixels wide and high
 QImage draw_help(int scale);  ///< 24 x 24 units
 
-QImage draw_word_mark();        ///< 344 x 76 pixels, opaque
-QImage draw_corner(int scale);  ///< 160 x 100 units, opaque
+QImage draw_word_mark(int scale);          ///< 172 x 38 units, opaque
+QImage draw_corner(int width, int scale);  ///< `width` units wide, five eighths of that high, opaque
 
 QImage draw_register_z300(int scale);  ///< 320 x 240 units
 QImage draw_register_z320(int scale);  ///< 320 x 240 units

@@ -10,6 +10,7 @@
 #include "core/register_text.h"
 #include "core/run_log.h"
 #include "editors/program/shared_choices.h"
+#include "widgets/look.h"
 #include "widgets/screen_text.h"
 
 namespace ecr {
@@ -83,7 +84,7 @@ void FrmDepartmentProgram::lay_out() {
   };
   const auto hint = [&](int row, int side, const char* label_name, Key key, const char* built_in) {
     QLabel* label = make_label(QString::fromLatin1(label_name), this);
-    label->setProperty("hint", true);
+    make_hint(*label);
     frame_.captions.add(*label, key, built_in);
     grid->addWidget(label, row, side * 3 + 2);
   };

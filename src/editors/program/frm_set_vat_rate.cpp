@@ -4,6 +4,7 @@
 
 #include "core/codecs.h"
 #include "image/prg_mode.h"
+#include "widgets/look.h"
 #include "widgets/screen_text.h"
 
 namespace ecr {
@@ -56,7 +57,7 @@ FrmSetVatRate::FrmSetVatRate() : Screen{QStringLiteral("FrmSetVatRate")}, frame_
     auto* field = new Field{member_name("E_VatRate", i + 1), this};
     auto* label = make_label(member_name("L_VatRate", i + 1), this, field);
     auto* most = make_label(member_name("L_MaxValue", i + 1), this);
-    most->setProperty("hint", true);
+    make_hint(*most);
     field->setAlignment(Qt::AlignRight);
     field->setFixedWidth(140);
     make_number_field(*field, rate_rules(frame_.C_Salva));

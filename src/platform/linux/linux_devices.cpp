@@ -19,6 +19,11 @@ struct SerialDevice {
   auto operator<=>(const SerialDevice&) const = default;
 };
 
+/// The kernel's virtual consoles, "tty0" and up: there are dozens, and never a wire behind one.
+bool is_console(std::string_view name) {
+  return name.starts_with("tty") && name.find_first_not_of("0123456789", 3) == std::string_view::npos;
+}
+
 /// A built-in port that the machine does not really have says that its type is 0.
 bool port_is_there(const fs::path& device) {
   std::ifstream file{device / "type"};
@@ -39,8 +44,9 @@ std::vector<std::string> linux_serial_captions(const std::string& class_folder) 
   std::vector<SerialDevice> devices;
   std::error_code error;
   for (fs::directory_iterator entry{class_folder, error}, end; !error && entry != end; entry.increment(error)) {
+    if (is_console(entry->path().filename().native())) continue;
     std::error_code ignored;
-    // Consoles and terminals without hardware have no device behind them.
+    // Terminals without hardware have no device behind them.
     if (!fs::exists(entry->path() / "device", ignored) || !port_is_there(entry->path())) continue;
     devices.push_back(device_named(entry->path().filename().string()));
   }
