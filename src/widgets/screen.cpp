@@ -6,8 +6,14 @@
 #include "widgets/help.h"
 
 namespace ecr {
+namespace {
 
-Screen::Screen(const QString& name) {
+Stage* current_stage = nullptr;
+
+}  // namespace
+
+Screen::Screen(const QString& name) : QWidget{Stage::current()} {
+  hide();
   setObjectName(name);
   setFocusPolicy(Qt::NoFocus);
 }
@@ -37,9 +43,16 @@ Stage::Stage() : layout_{new QStackedLayout{this}} {
   setObjectName(QStringLiteral("Stage"));
   setMinimumSize(900, 600);
   resize(1024, 700);
+  current_stage = this;
 }
 
-Stage::~Stage() = default;
+Stage::~Stage() {
+  if (current_stage == this) current_stage = nullptr;
+}
+
+Stage* Stage::current() {
+  return current_stage;
+}
 
 void Stage::open(Screen* screen) {
   screen->stage_ = this;

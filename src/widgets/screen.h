@@ -18,7 +18,8 @@ class Screen : public QWidget {
   Q_OBJECT
 
  public:
-  /// `name` is the screen's name as the system has it; it becomes the object name.
+  /// `name` is the screen's name as the system has it; it becomes the object name. A screen lies on the stage from its
+  /// beginning, hidden: a screen that changes its parent once it has controls dresses each of them anew.
   explicit Screen(const QString& name);
 
   /// The screen that a control lies on, nullptr outside of all.
@@ -56,6 +57,9 @@ class Stage : public QWidget {
  public:
   Stage();
   ~Stage() override;
+
+  /// The stage of the program, nullptr where there is none.
+  [[nodiscard]] static Stage* current();
 
   /// Loads the screen, puts it on top and shows it. The stage owns it.
   void open(Screen* screen);

@@ -16,7 +16,7 @@ namespace {
 
 class CaptionsTest : public ScreenTest {
  protected:
-  PlainScreen screen;
+  PlainScreen& screen = *new PlainScreen;
   Captions captions;
 };
 
