@@ -1,6 +1,5 @@
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
 #include <gtest/gtest.h>
 #include <initializer_list>
 #include <string>
@@ -194,22 +193,6 @@ TEST_F(TransferTest, AThirdDirectionIsIllegal) {
 }
 
 // Codes of faults
-
-TEST_F(TransferTest, AFileThatOpensButCannotBeReadHasItsOwnCode) {
-  // A process's own memory, read from address 0, is such a file.
-  constexpr const char* unreadable = "/proc/self/mem";
-  if (!std::filesystem::exists(unreadable)) GTEST_SKIP() << "this system has no file of that kind";
-  make_folder("register/reports");
-  for (const std::string name :
-       {"Dati/PRG_MODE.BIN", "Dati/LOGO.BMP", "register/PRG_PLU.BIN", "register/reports/5.bin"}) {
-    remove(name);
-    std::filesystem::create_symlink(unreadable, host(name));
-  }
-  EXPECT_EQ(send_cmd(download, 0), ends_with(2050));
-  EXPECT_EQ(send_logo("LOGO.BMP"), ends_with(0x08020000));
-  EXPECT_EQ(send_cmd(upload, 1), ends_with(2050));
-  EXPECT_EQ(send_cmd(upload, 5), ends_with(2050));
-}
 
 TEST(EmulatedRegisterCodes, TellReadingFromOpening) {
   EXPECT_EQ(code_of_reading({FaultCode::device_error}), 2050);

@@ -4,7 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QImage>
+#include <QLabel>
+#include <QPainter>
 #include <QPalette>
+#include <QStyleOption>
 
 namespace ecr::test {
 namespace {
@@ -70,6 +74,54 @@ TEST_P(LookTest, TheStyleSheetNamesNoColourThatIsNotThere) {
   const QString sheet = static_cast<QApplication*>(QCoreApplication::instance())->styleSheet();
   EXPECT_FALSE(sheet.isEmpty());
   EXPECT_FALSE(sheet.contains(u'@'));
+}
+
+TEST_P(LookTest, AHeadingIsLargerThanItsTextAndAHintPaler) {
+  QLabel plain;
+  QLabel heading;
+  QLabel hint;
+  make_heading(heading);
+  make_hint(hint);
+  EXPECT_GT(heading.font().pointSizeF(), plain.font().pointSizeF() * 1.5);
+  EXPECT_GT(heading.font().weight(), plain.font().weight());
+  const QColor window = plain.palette().color(QPalette::Window);
+  EXPECT_LT(contrast(hint.palette().color(QPalette::WindowText), window),
+            contrast(plain.palette().color(QPalette::WindowText), window));
+}
+
+TEST_P(LookTest, ACardFillsItsPlaceUpToItsRoundCorners) {
+  for (const qreal ratio : {1.0, 2.0}) {
+    QImage image{QSize{60, 40} * ratio, QImage::Format_ARGB32_Premultiplied};
+    image.setDevicePixelRatio(ratio);
+    const auto drawn = [&](QStyle::State state) {
+      image.fill(Qt::transparent);
+      QPainter painter{&image};
+      QStyleOption card;
+      card.rect = {0, 0, 60, 40};
+      card.state = state;
+      draw_card(painter, card);
+    };
+    const auto at = [&](int x, int y) { return image.pixelColor(QPoint{x, y} * ratio); };
+    drawn(QStyle::State_Enabled);
+    const QPalette palette = QApplication::palette();
+    EXPECT_EQ(at(30, 20), palette.color(QPalette::Button));
+    EXPECT_EQ(at(3, 20), palette.color(QPalette::Button)) << "beside the edge";
+    EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0);
+    EXPECT_EQ(image.pixelColor(image.width() - 1, image.height() - 1).alpha(), 0);
+    const QColor edge = at(0, 20);
+    EXPECT_NE(edge, palette.color(QPalette::Button));
+    EXPECT_EQ(at(59, 20), edge);
+    EXPECT_EQ(at(30, 0), edge);
+    EXPECT_EQ(at(30, 39), edge);
+    drawn(QStyle::State_Enabled | QStyle::State_HasFocus);
+    EXPECT_EQ(at(1, 20), palette.color(QPalette::Highlight));
+    EXPECT_EQ(at(30, 20), palette.color(QPalette::Button));
+    drawn(QStyle::State_Enabled | QStyle::State_MouseOver);
+    const QColor hovered = at(30, 20);
+    drawn(QStyle::State_Enabled | QStyle::State_Sunken);
+    EXPECT_NE(hovered, palette.color(QPalette::Button));
+    EXPECT_NE(at(30, 20), hovered);
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(InBothSchemes, LookTest, ::testing::Values(Scheme::light, Scheme::dark));
