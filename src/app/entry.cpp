@@ -9,6 +9,7 @@
 #include "core/global.h"
 #include "core/text.h"
 #include "editors/program/frm_department_program.h"
+#include "editors/program/frm_ns_menu_setting.h"
 #include "editors/program/frm_set_vat_rate.h"
 #include "image/side_files.h"
 #include "lang/language.h"
@@ -66,6 +67,7 @@ void register_screens() {
   register_one<FrmSettingMode>("FrmSettingMode");
   register_one<FrmSetVatRate>("FrmSetVatRate");
   register_one<FrmDepartmentProgram>("FrmDepartmentProgram");
+  register_one<FrmNSMenuSetting>("FrmNSMenuSetting");
 }
 
 void Main(Stage& stage, const QString& application_folder, const QString& command_line) {

@@ -255,6 +255,9 @@ void Write_PrgMode();
 /// The image's bytes, in file order.
 [[nodiscard]] std::string_view bytes_of_image(const PrgModeImage& image) noexcept;
 
+/// One byte of the working image, by its place in the file, 0 to 5655. FaultError(out_of_range) for any other.
+[[nodiscard]] std::uint8_t& image_byte(std::size_t offset);
+
 /// Both images as before any read.
 void reset_prg_mode() noexcept;
 

@@ -53,11 +53,15 @@ void ChoiceList::show_text(const QString& text) {
 bool ChoiceList::show_number(int number) {
   for (int index = 0; index < count(); ++index) {
     if (ottieni_numero(page_bytes(itemText(index)), ".") != number) continue;
-    setPlaceholderText({});
-    setCurrentIndex(index);
+    show_entry(index);
     return true;
   }
   return false;
+}
+
+void ChoiceList::show_entry(int position) {
+  setPlaceholderText({});
+  setCurrentIndex(position);
 }
 
 void ChoiceList::show_nothing() {

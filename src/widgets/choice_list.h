@@ -29,6 +29,8 @@ class ChoiceList : public QComboBox {
   /// Shows the entry whose digit is `number`, the first if there are several. Answers whether there is one; without it
   /// the list stays as it stands.
   bool show_number(int number);
+  /// Shows the entry at this position.
+  void show_entry(int position);
   /// Nothing selected, no text.
   void show_nothing();
 

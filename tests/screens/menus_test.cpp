@@ -235,7 +235,6 @@ const QStringList not_there_yet = {
     "FrmProgramMode.C_PercentageProgram",
     "FrmProgramMode.C_PO_RA_M_P_Key_Program",
     "FrmProgramMode.C_TenderProgram",
-    "FrmProgramMode.C_NSProgram",
     "FrmProgramMode.C_ForeignCurrencyProgram",
     "FrmProgramMode.C_ClerkSystemProgram",
     "FrmProgramMode.C_PermissionProgram",
