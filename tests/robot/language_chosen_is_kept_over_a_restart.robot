@@ -6,7 +6,7 @@ click Opt_Lang(3)
 click C_Save
 screen FrmPres
 expect L_Titolo2 "Kassenprogrammierung"
-expect L_ComPort "Anschluss (COM)"
+expect L_ComPort "Anschluss"
 expect C_Exit "Beenden"
 expect-bytes Setup/Language.ini 0 03
 expect-file Setup/Language.ini size 1
@@ -15,6 +15,6 @@ screen FrmPres
 expect L_Titolo2 "Kassenprogrammierung"
 expect E_ComPort 4
 click C_LinguaSel
-expect-title "Sprachauswahl"
+expect-title "Sprache wählen"
 expect-checked Opt_Lang(3) on
 expect Opt_Lang(0) "Englisch"
