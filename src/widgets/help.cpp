@@ -3,7 +3,8 @@
 #include <QDesktopServices>
 #include <QDialog>
 #include <QFileInfo>
-#include <QHBoxLayout>
+#include <QGridLayout>
+#include <QLineEdit>
 #include <QTextBrowser>
 #include <QUrl>
 
@@ -11,43 +12,52 @@
 #include "core/global.h"
 #include "core/run_log.h"
 #include "lang/language.h"
+#include "widgets/manual.h"
 #include "widgets/screen_text.h"
 
 namespace ecr {
 namespace {
 
-/// A file of the manual: in the chosen language, or in English where that one has it not.
-QString help_path(const QString& file) {
-  const QString path = path_for_toolkit(host_path(Global::PathHelp)) + file;
-  if (QFileInfo::exists(path)) return path;
-  return path_for_toolkit(host_path(Global::PathApp + "help\\eng\\")) + file;
-}
-
 /// The page of this name, the first page of the manual where there is none.
 QString page_path(const QString& page) {
-  const QString path = help_path(page + QStringLiteral(".html"));
-  return QFileInfo::exists(path) ? path : help_path(QStringLiteral("index.html"));
+  const QString path = manual_file(page + QStringLiteral(".html"));
+  return QFileInfo::exists(path) ? path : manual_file(QStringLiteral("index.html"));
 }
 
+/// A page of the manual beside its contents. While something stands in the search field, the pages that hold it stand
+/// in place of the contents.
 class HelpWindow : public QDialog {
  public:
   HelpWindow(QWidget* over, const QString& path) : QDialog{over} {
     setObjectName(QStringLiteral("Help"));
     setAttribute(Qt::WA_DeleteOnClose);
-    resize(900, 640);
-    auto* layout = new QHBoxLayout{this};
-    auto* contents = make_browser(QStringLiteral("HelpContents"));
-    contents->setSource(QUrl::fromLocalFile(help_path(QStringLiteral("contents.html"))));
-    contents->setOpenLinks(false);
-    contents->setFixedWidth(230);
-    auto* page = make_browser(QStringLiteral("HelpPage"));
-    connect(page, &QTextBrowser::sourceChanged, this, [this, page] { setWindowTitle(page->documentTitle()); });
-    connect(contents, &QTextBrowser::anchorClicked, page, [page](const QUrl& url) { page->setSource(url); });
-    page->setSource(QUrl::fromLocalFile(path));
-    setWindowTitle(page->documentTitle());
-    layout->addWidget(contents);
-    layout->addWidget(page, 1);
-    page->setFocus();
+    resize(980, 680);
+    search_ = new QLineEdit{this};
+    search_->setObjectName(QStringLiteral("HelpSearch"));
+    search_->setPlaceholderText(manual_word(QStringLiteral("search"), QStringLiteral("Search the manual")));
+    search_->setAccessibleName(search_->placeholderText());
+    search_->setClearButtonEnabled(true);
+    contents_ = make_browser(QStringLiteral("HelpContents"));
+    contents_->setOpenLinks(false);
+    page_ = make_browser(QStringLiteral("HelpPage"));
+    page_->setOpenLinks(false);
+    connect(page_, &QTextBrowser::sourceChanged, this, [this] { setWindowTitle(page_->documentTitle()); });
+    for (auto* browser : {contents_, page_}) {
+      connect(browser, &QTextBrowser::anchorClicked, this, [this](const QUrl& url) { show_page(url.fileName()); });
+    }
+    connect(search_, &QLineEdit::textChanged, this, [this] { list_found(); });
+    connect(search_, &QLineEdit::returnPressed, this, [this] { show_first_found(); });
+    page_->setSource(QUrl::fromLocalFile(path));
+    setWindowTitle(page_->documentTitle());
+    list_found();
+    auto* layout = new QGridLayout{this};
+    layout->addWidget(search_, 0, 0);
+    layout->addWidget(contents_, 1, 0);
+    layout->addWidget(page_, 0, 1, 2, 1);
+    search_->setFixedWidth(250);
+    contents_->setFixedWidth(250);
+    layout->setColumnStretch(1, 1);
+    page_->setFocus();
   }
 
  private:
@@ -57,6 +67,37 @@ class HelpWindow : public QDialog {
     browser->setOpenExternalLinks(false);
     return browser;
   }
+
+  void show_page(const QString& file) {
+    page_->setSource(QUrl::fromLocalFile(manual_file(file)));
+    const QString word = search_->text().simplified().section(u' ', 0, 0);
+    // The first place is marked, so that it is seen.
+    if (!word.isEmpty()) page_->find(word);
+  }
+
+  void list_found() {
+    if (search_->text().simplified().isEmpty()) {
+      contents_->setSource(QUrl::fromLocalFile(manual_file(QStringLiteral("contents.html"))));
+      return;
+    }
+    if (pages_.empty()) pages_ = manual_pages();
+    QString list;
+    for (const ManualPage& page : pages_with(pages_, search_->text())) {
+      list += QStringLiteral("<p><a href=\"%1\">%2</a></p>").arg(page.file, page.title.toHtmlEscaped());
+    }
+    if (list.isEmpty()) list = manual_word(QStringLiteral("nothing-found"), QStringLiteral("No page has this."));
+    contents_->setHtml(list);
+  }
+
+  void show_first_found() {
+    const std::vector<ManualPage> found = pages_with(pages_, search_->text());
+    if (!found.empty()) show_page(found.front().file);
+  }
+
+  QLineEdit* search_;
+  QTextBrowser* contents_;
+  QTextBrowser* page_;
+  std::vector<ManualPage> pages_;
 };
 
 }  // namespace

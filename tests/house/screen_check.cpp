@@ -13,7 +13,9 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
+#include <QHash>
 #include <QHeaderView>
+#include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
@@ -207,6 +209,26 @@ QStringList complaints_about_places(const QWidget& screen) {
         complaints.append(called(one) + QStringLiteral(" and ") + called(other) + QStringLiteral(" overlap"));
       }
     }
+  }
+  return complaints;
+}
+
+QStringList complaints_about_letter_marks(const QWidget& screen) {
+  QStringList complaints;
+  QHash<QKeySequence, QString> marked;
+  for (const QWidget* control : controls_of(screen)) {
+    QString text;
+    if (const auto* button = qobject_cast<const QAbstractButton*>(control)) text = button->text();
+    if (const auto* label = qobject_cast<const QLabel*>(control); label != nullptr && label->buddy() != nullptr) {
+      text = label->text();
+    }
+    if (const auto* box = qobject_cast<const QGroupBox*>(control)) text = box->title();
+    const QKeySequence mark = QKeySequence::mnemonic(text);
+    if (mark.isEmpty()) continue;
+    if (marked.contains(mark)) {
+      complaints << QStringLiteral("%1 and %2 share %3").arg(marked[mark], called(*control), mark.toString());
+    }
+    marked[mark] = called(*control);
   }
   return complaints;
 }

@@ -16,6 +16,9 @@ namespace ecr::test {
 /// Controls that lie over another one or reach out of what they lie on.
 [[nodiscard]] QStringList complaints_about_places(const QWidget& screen);
 
+/// Letters that mark two controls of one screen: pressed with Alt, they would reach neither.
+[[nodiscard]] QStringList complaints_about_letter_marks(const QWidget& screen);
+
 /// Controls that take the focus and tell nobody what they are.
 [[nodiscard]] QStringList complaints_about_silent_controls(const QWidget& screen);
 

@@ -129,6 +129,14 @@ TEST_F(ScreenCheckTest, HiddenControlsLieNowhere) {
   EXPECT_EQ(complaints_about_places(*screen), QStringList{});
 }
 
+TEST_F(ScreenCheckTest, LettersThatAreMarkedTwiceAreFound) {
+  button->setText(QStringLiteral("&Go"));
+  label->setText(QStringLiteral("A label of some len&gth"));
+  EXPECT_EQ(complaints_about_letter_marks(*screen), QStringList{QStringLiteral("C_Go and L_Field share Alt+G")});
+  label->setText(QStringLiteral("A &label of some length"));
+  EXPECT_EQ(complaints_about_letter_marks(*screen), QStringList{});
+}
+
 TEST_F(ScreenCheckTest, SilentControlsAreFound) {
   field->setAccessibleName({});
   label->setBuddy(nullptr);

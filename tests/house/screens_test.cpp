@@ -50,12 +50,16 @@ class EveryScreen : public ScreenTest, public ::testing::WithParamInterface<std:
     for (const QString& complaint : check(screen)) ADD_FAILURE() << complaint.toStdString() << ", " << when;
   }
 
-  /// Runs the check in each of the ways in which the screen can be seen.
+  /// Runs the check in each of the ways in which the screen can be seen: with the built-in captions and in English.
   void look_in_every_way(const Check& check) {
-    for (const bool filled : {false, true}) {
+    look({"", "FrmDescEng.txt"}, {Global::model_z300, Global::model_z320}, check);
+  }
+
+  void look(const std::vector<std::string_view>& files, const std::vector<std::uint8_t>& models, const Check& check) {
+    for (const std::string_view file : files) {
       reset_catalogue();
-      ASSERT_TRUE(!filled || read_language_file("FrmDescEng.txt"));
-      for (const auto model : {Global::model_z300, Global::model_z320}) {
+      ASSERT_TRUE(file.empty() || read_language_file(file));
+      for (const auto model : models) {
         for (const QSize size : {QSize{1024, 700}, QSize{900, 600}}) {
           start_session(model);
           stage.resize(size);
@@ -63,8 +67,8 @@ class EveryScreen : public ScreenTest, public ::testing::WithParamInterface<std:
           ASSERT_NE(screen, nullptr);
           ASSERT_EQ(stage.size(), size) << "the window can't be made that small";
           const std::string when = std::string{model == Global::model_z320 ? "Z320" : "Z300"} + " at " +
-                                   std::to_string(size.width()) + " x " + std::to_string(size.height()) +
-                                   (filled ? ", English" : ", built-in captions");
+                                   std::to_string(size.width()) + " x " + std::to_string(size.height()) + ", " +
+                                   (file.empty() ? "built-in captions" : std::string{file});
           look_at(*screen, check, when);
           for (auto* tabs : screen->findChildren<QTabWidget*>()) {
             for (int i = 1; i < tabs->count(); ++i) {
@@ -82,6 +86,7 @@ class EveryScreen : public ScreenTest, public ::testing::WithParamInterface<std:
 };
 
 using AtEverySize = EveryScreen;
+using InEveryLanguage = EveryScreen;
 
 TEST_P(AtEverySize, ControlsHaveNamesOfTheirOwn) {
   look_in_every_way(complaints_about_names);
@@ -109,6 +114,15 @@ TEST_P(AtEverySize, TheDisplayIsTheOneThatWasAskedFor) {
   EXPECT_EQ(stage.devicePixelRatioF(), wanted);
 }
 
+// The Z320 has every control that the Z300 has.
+TEST_P(InEveryLanguage, EveryTextHasItsRoomAndNoLetterIsMarkedTwice) {
+  std::vector<std::string_view> files;
+  for (const Language& language : languages) files.push_back(language.file);
+  look(files, {Global::model_z320}, [](QWidget& screen) {
+    return complaints_about_cut_texts(screen) + complaints_about_places(screen) + complaints_about_letter_marks(screen);
+  });
+}
+
 std::vector<std::string> all_screens() {
   register_screens();
   std::vector<std::string> names = {"FrmPres", "FrmLanguage", "FrmPrincipale", "FrmSetup"};
@@ -117,6 +131,8 @@ std::vector<std::string> all_screens() {
 }
 
 INSTANTIATE_TEST_SUITE_P(OfTheProgram, AtEverySize, ::testing::ValuesIn(all_screens()),
+                         [](const auto& screen) { return screen.param; });
+INSTANTIATE_TEST_SUITE_P(OfTheProgram, InEveryLanguage, ::testing::ValuesIn(all_screens()),
                          [](const auto& screen) { return screen.param; });
 
 }  // namespace

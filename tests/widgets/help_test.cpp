@@ -94,6 +94,84 @@ TEST_F(HelpTest, TheManualIsThatOfTheChosenLanguage) {
   EXPECT_EQ(window()->windowTitle(), QStringLiteral("Erste Seite"));
 }
 
+class SearchTest : public HelpTest {
+ protected:
+  SearchTest() {
+    write("help/eng/index.html", html("First page"));
+    write("help/eng/contents.html", "<html><head><title>Contents</title></head><body>All pages</body></html>");
+    write("help/eng/a.html",
+          "<html><head><title>Departments</title></head><body>The <b>price</b> of a group</body></html>");
+    write("help/eng/b.html", "<html><head><title>Price lists</title></head><body>Lists of PLUs</body></html>");
+  }
+
+  void search(const QString& text) {
+    open_help(&stage, QStringLiteral("index"));
+    auto* field = stage.findChild<QLineEdit*>(QStringLiteral("HelpSearch"));
+    ASSERT_NE(field, nullptr);
+    field->setFocus();
+    let_screens_settle();
+    type(text);
+  }
+
+  [[nodiscard]] QString listed() const {
+    return stage.findChild<QTextBrowser*>(QStringLiteral("HelpContents"))->toPlainText().trimmed();
+  }
+};
+
+TEST_F(SearchTest, PagesThatHoldTheWordsAreListedTitlesFirst) {
+  search("PRICE");
+  EXPECT_EQ(listed(), QStringLiteral("Price lists\nDepartments"));
+}
+
+TEST_F(SearchTest, EveryWordMustBeThere) {
+  search("group price");
+  EXPECT_EQ(listed(), QStringLiteral("Departments"));
+}
+
+TEST_F(SearchTest, NothingFoundIsSaid) {
+  search("zebra");
+  EXPECT_EQ(listed(), QStringLiteral("No page has this."));
+}
+
+TEST_F(SearchTest, WithoutWordsTheContentsStandThereAgain) {
+  search("x");
+  press(Qt::Key_Backspace);
+  EXPECT_EQ(listed(), QStringLiteral("All pages"));
+}
+
+TEST_F(SearchTest, EnterOpensTheFirstPageAtTheWord) {
+  search("group");
+  press(Qt::Key_Return);
+  EXPECT_EQ(window()->windowTitle(), QStringLiteral("Departments"));
+  EXPECT_EQ(page()->textCursor().selectedText(), QStringLiteral("group"));
+}
+
+TEST_F(SearchTest, PagesOfTheChosenLanguageAreSearchedAndEnglishOnesWhereItHasNone) {
+  write("help/ge/contents.html",
+        "<html><head><meta name=\"search\" content=\"Suchen\"><meta name=\"nothing-found\" content=\"Nichts.\">"
+        "</head><body>Inhalt</body></html>");
+  write("help/ge/a.html", "<html><head><title>Warengruppen</title></head><body>Der Preis</body></html>");
+  Global::PathHelp = Global::PathApp + "help\\ge\\";
+  search("pre");
+  EXPECT_EQ(listed(), QStringLiteral("Warengruppen"));
+  EXPECT_EQ(stage.findChild<QLineEdit*>(QStringLiteral("HelpSearch"))->placeholderText(), QStringLiteral("Suchen"));
+  type("xyz");
+  EXPECT_EQ(listed(), QStringLiteral("Nichts."));
+  press(Qt::Key_A, Qt::ControlModifier);
+  type("PLUs");
+  EXPECT_EQ(listed(), QStringLiteral("Price lists"));
+}
+
+TEST_F(SearchTest, APageThatTheLanguageLacksOpensInEnglish) {
+  write("help/ge/contents.html", "<html><body><a href=\"b.html\">x</a></body></html>");
+  Global::PathHelp = Global::PathApp + "help\\ge\\";
+  open_help(&stage, QStringLiteral("index"));
+  auto* contents = stage.findChild<QTextBrowser*>(QStringLiteral("HelpContents"));
+  ASSERT_NE(contents, nullptr);
+  emit contents->anchorClicked(QUrl::fromLocalFile(QString::fromStdString(host("help/ge/b.html"))));
+  EXPECT_EQ(window()->windowTitle(), QStringLiteral("Price lists"));
+}
+
 }  // namespace
 }  // namespace ecr::test
 
