@@ -96,7 +96,7 @@ FrmPrincipale::~FrmPrincipale() {
 }
 
 void FrmPrincipale::load() {
-  frame_.load_corner();
+  frame_.load_band();
   Global::ComPort = 1;
   guarded("FrmPrincipale Form_load: ", [this] {
     const Decimal port = value_of(port_text_);

@@ -66,7 +66,7 @@ MenuScreen::MenuScreen(const QString& name, std::span<const MenuRow> rows, int c
 }
 
 void MenuScreen::load() {
-  frame_.load_corner();
+  frame_.load_band();
   captions_.lay();
   frame_.L_Titolo->setText(windowTitle());
   // A button that is not shown leaves no gap.

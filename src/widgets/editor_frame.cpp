@@ -4,9 +4,12 @@
 
 #include <QHBoxLayout>
 
+#include "core/global.h"
 #include "core/run_log.h"
 #include "core/shell.h"
 #include "link/transfer.h"
+#include "widgets/glyphs.h"
+#include "widgets/look.h"
 #include "widgets/screen_text.h"
 
 namespace ecr {
@@ -55,7 +58,11 @@ void EditorFrame::log_prefixes(std::string load, std::string save) {
 }
 
 void EditorFrame::load(const std::function<void()>& routine) {
-  top.load_corner();
+  top.load_band(file_);
+  C_Salva->setIcon(glyph(Glyph::to_file, C_Salva->palette().color(QPalette::HighlightedText)));
+  C_Invia_Ecr->setIcon(glyph(Glyph::to_register, text_plain()));
+  C_Salva->setToolTip(QStringLiteral("→ ") + screen_text(Global::PathDati) + file_);
+  C_Invia_Ecr->setToolTip(file_ + QStringLiteral(" → ") + top.L_Session->text().section(QStringLiteral("   "), 0, 1));
   captions.lay();
   guarded(load_prefix_, routine);
 }

@@ -26,6 +26,8 @@ class EditorFrame {
   void send_with(std::function<bool()> send, WhileSending buttons);
   /// Runs behind a send, when the buttons are enabled again.
   void after_send(std::function<void()> after) { after_send_ = std::move(after); }
+  /// The file that C_Salva writes, where it is not the image's; its name without the folder.
+  void changes_file(const QString& file) { file_ = file; }
   /// Other words in front of a fault in loading or saving, where a screen's own are not "<Screen> Form_load: " and
   /// "<Screen> Salva: ".
   void log_prefixes(std::string load, std::string save);
@@ -51,6 +53,7 @@ class EditorFrame {
   std::function<bool()> send_;
   std::function<void()> after_send_;
   WhileSending while_sending_ = WhileSending::buttons_disabled;
+  QString file_ = QStringLiteral("PRG_MODE.BIN");
   std::string load_prefix_;
   std::string save_prefix_;
 };

@@ -11,7 +11,8 @@ namespace ecr {
 ScreenFrame::ScreenFrame(Screen& screen, Corner corner)
     : body{new QVBoxLayout},
       L_Titolo{make_label(QStringLiteral("L_Titolo"), &screen)},
-      I_Help{new Picture{QStringLiteral("I_Help"), &screen}} {
+      I_Help{new Picture{QStringLiteral("I_Help"), &screen}},
+      L_Session{new SessionMark{&screen}} {
   auto* whole = new QVBoxLayout{&screen};
   whole->setContentsMargins(28, 18, 28, 20);
   whole->setSpacing(16);
@@ -23,6 +24,7 @@ ScreenFrame::ScreenFrame(Screen& screen, Corner corner)
 
   make_heading(*L_Titolo);
   top->addWidget(L_Titolo, 1);
+  top->addWidget(L_Session);
   if (corner == Corner::picture) {
     corner_ = new Picture{QStringLiteral("I_Corner"), &screen};
     top->addWidget(corner_);
@@ -38,7 +40,8 @@ ScreenFrame::ScreenFrame(Screen& screen, Corner corner)
   QObject::connect(key, &QShortcut::activated, &screen, help);
 }
 
-void ScreenFrame::load_corner() {
+void ScreenFrame::load_band(const QString& file) {
+  L_Session->show_session(file);
   I_Help->show_file(QStringLiteral("help.png"), {24, 24});
   if (corner_ != nullptr) corner_->show_file(QStringLiteral("Logo_Angolo.gif"), {80, 50});
 }

@@ -6,6 +6,7 @@
 #include "widgets/captions.h"
 #include "widgets/controls.h"
 #include "widgets/screen.h"
+#include "widgets/session_mark.h"
 
 namespace ecr {
 
@@ -16,12 +17,14 @@ class ScreenFrame {
   /// Lays the top band on `screen`; the rest of the screen is `body`.
   ScreenFrame(Screen& screen, Corner corner);
 
-  /// Shows the corner picture, where the screen has one.
-  void load_corner();
+  /// Shows the pictures of the band, and the link, the model and the file that the screen changes: its name without the
+  /// folder, empty for none.
+  void load_band(const QString& file = {});
 
   QVBoxLayout* body;
   QLabel* L_Titolo;
   Picture* I_Help;
+  SessionMark* L_Session;
 
  private:
   Picture* corner_ = nullptr;

@@ -1,0 +1,26 @@
+#pragma once
+// One line at the top of a screen: on which port the register is, which model is programmed, which file is open.
+
+#include <QLabel>
+#include <QString>
+
+namespace ecr {
+
+class SessionMark : public QLabel {
+  Q_OBJECT
+
+ public:
+  explicit SessionMark(QWidget* parent);
+
+  /// Says how things stand now. `file` is the file that the screen changes, without its folder; empty if it changes
+  /// none.
+  void show_session(const QString& file);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  bool linked_ = false;
+};
+
+}  // namespace ecr
