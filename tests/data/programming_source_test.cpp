@@ -251,7 +251,7 @@ TEST(ProgrammingSource, RefusesLinesThatSayNothingKnown) {
   EXPECT_NE(complaint_of_line("Perm0 = \"1").find("not closed"), std::string::npos);
   EXPECT_NE(complaint_of_line("Perm0 = 1\nPerm0 = 2").find("shop.txt:3: Perm0 is said in line 2 already"),
             std::string::npos);
-  EXPECT_NE(complaint("file = KEY_DEFAULT\nPerm0 = 1").find("KeyLayout only"), std::string::npos);
+  EXPECT_NE(complaint("file = KEY_DEFAULT\nPerm0 = 1").find("holds no Perm0"), std::string::npos);
   EXPECT_NE(complaint("file = PRG_PLU\nPerm0 = 1").find("there is no Perm0"), std::string::npos);
   EXPECT_NE(complaint("file = PRG_PLU\nPopUpList[6] = 1").find("1 to 5"), std::string::npos);
   EXPECT_NE(complaint("file = PRG_PLU\nPlu[1..3001] = {n}, \"\", open, 1, 0, 0, 0, 0, 0, 0, 0").find("too many"),

@@ -12,6 +12,8 @@
 #include "core/decimal.h"
 #include "core/fault.h"
 #include "image/layout.h"
+#include "lang/register_language.h"
+#include "make_programming/language_file.h"
 #include "make_programming/values.h"
 
 namespace ecr {
@@ -20,6 +22,9 @@ namespace {
 constexpr std::string_view image_file = "PRG_MODE";
 constexpr std::string_view item_file = "PRG_PLU";
 constexpr std::string_view key_file = "KEY_DEFAULT";
+constexpr std::string_view language_file = "LANGUAGE";
+
+constexpr std::string_view key_sections[] = {"KeyLayout"};
 
 constexpr std::size_t key_layout_size = sizeof(PrgModeImage::KeyLayout);
 constexpr std::size_t item_size = sizeof(PluRecord);
@@ -124,7 +129,8 @@ class Bytes {
 
 class ImageMaker {
  public:
-  explicit ImageMaker(bool keys_only) : keys_only_{keys_only} {
+  /// `only`: the sections that a source may speak of; empty for all.
+  explicit ImageMaker(std::span<const std::string_view> only = {}) : only_{only} {
     image_.bytes.assign(prg_mode_size, 0);
     for (const FieldPlace& field : image_fields) {
       if (field.kind != FieldKind::text) continue;
@@ -136,7 +142,9 @@ class ImageMaker {
 
   void take(const Statement& statement) {
     const Target target = target_of(statement.target);
-    if (keys_only_ && target.section != "KeyLayout") throw ValueError{"this file holds KeyLayout only"};
+    if (!only_.empty() && std::ranges::find(only_, target.section) == only_.end()) {
+      throw ValueError{"this file holds no " + std::string{target.section}};
+    }
     const std::vector<const FieldPlace*> record = record_fields(target.section);
     if (record.empty()) {
       take_row(statement, target);
@@ -145,10 +153,7 @@ class ImageMaker {
     }
   }
 
-  [[nodiscard]] std::string result() const {
-    const std::size_t start = keys_only_ ? prg_mode_size - key_layout_size : 0;
-    return {image_.bytes.begin() + static_cast<std::ptrdiff_t>(start), image_.bytes.end()};
-  }
+  [[nodiscard]] std::string result() const { return {image_.bytes.begin(), image_.bytes.end()}; }
 
  private:
   void fill(const FieldPlace& field, std::size_t number, std::uint8_t byte) {
@@ -197,7 +202,7 @@ class ImageMaker {
   }
 
   Bytes image_;
-  bool keys_only_;
+  std::span<const std::string_view> only_;
 };
 
 class ItemMaker {
@@ -425,11 +430,12 @@ std::string make_programming(const std::vector<Statement>& statements) {
   const std::span<const Statement> rest = std::span{statements}.subspan(1);
   if (head.target == "file" && head.values.size() == 1) {
     const std::string& kind = head.values.front();
-    if (kind == image_file) return make_with(ImageMaker{false}, rest);
+    if (kind == image_file) return make_with(ImageMaker{}, rest);
     if (kind == item_file) return make_with(ItemMaker{}, rest);
-    if (kind == key_file) return make_with(ImageMaker{true}, rest);
+    if (kind == key_file) return make_with(ImageMaker{key_sections}, rest).substr(prg_mode_size - key_layout_size);
+    if (kind == language_file) return language_lines(make_with(ImageMaker{register_language_sections}, rest));
   }
-  throw SourceError{head.file, head.line, "a source begins with file = PRG_MODE, PRG_PLU or KEY_DEFAULT"};
+  throw SourceError{head.file, head.line, "a source begins with file = PRG_MODE, PRG_PLU, KEY_DEFAULT or LANGUAGE"};
 }
 
 std::string explain_programming(std::string_view bytes) {

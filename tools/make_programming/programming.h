@@ -1,7 +1,7 @@
 #pragma once
-// The register's binary files from their readable sources, and back: the programming image (PRG_MODE.BIN), the item
-// table (PRG_PLU.BIN) and the default keyboard (KEY_DEFAULT...BIN). For any bytes of these forms,
-// make(explain(bytes)) is bytes.
+// The register's files from their readable sources: the programming image (PRG_MODE.BIN), the item table (PRG_PLU.BIN),
+// the default keyboard (KEY_DEFAULT...BIN) and the register's texts in a language. The first three come back as sources
+// too: for any bytes of these forms, make(explain(bytes)) is bytes.
 
 #include <stdexcept>
 #include <string>
