@@ -22,16 +22,16 @@ QString control_name(std::string_view name, int index) {
 
 }  // namespace
 
-OptionLists::OptionLists(Screen& screen, Captions& captions, std::span<const OptionRow> rows)
-    : OptionLists{screen, captions, rows, not_a_member, 0} {}
+OptionLists::OptionLists(QWidget& parent, Captions& captions, std::span<const OptionRow> rows)
+    : OptionLists{parent, captions, rows, not_a_member, 0} {}
 
-OptionLists::OptionLists(Screen& screen, Captions& captions, std::span<const OptionRow> rows, int index,
+OptionLists::OptionLists(QWidget& parent, Captions& captions, std::span<const OptionRow> rows, int index,
                          std::size_t record)
     : record_{record} {
   for (const OptionRow& row : rows) {
-    auto* list = new ChoiceList{control_name(row.control, index), &screen};
+    auto* list = new ChoiceList{control_name(row.control, index), &parent};
     list->setMaximumWidth(widest_list);
-    auto* label = make_label(control_name(row.label, index), &screen, list);
+    auto* label = make_label(control_name(row.label, index), &parent, list);
     captions.add(*label, row.key, row.caption);
     controls_.push_back({&row, label, list});
     lists_.push_back(list);

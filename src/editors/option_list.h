@@ -9,21 +9,21 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QStringList>
+#include <QWidget>
 
 #include "editors/option_table.h"
 #include "widgets/captions.h"
 #include "widgets/choice_list.h"
-#include "widgets/screen.h"
 
 namespace ecr {
 
 class OptionLists {
  public:
-  /// Makes the label and the list of each row. `rows` outlives this.
-  OptionLists(Screen& screen, Captions& captions, std::span<const OptionRow> rows);
+  /// Makes the label and the list of each row, on a screen or on a tab of one. `rows` outlives this.
+  OptionLists(QWidget& parent, Captions& captions, std::span<const OptionRow> rows);
   /// The same for one record of a table: the controls are members `index` of their arrays, and the rows' offsets count
   /// from `record`, a place in the image.
-  OptionLists(Screen& screen, Captions& captions, std::span<const OptionRow> rows, int index, std::size_t record);
+  OptionLists(QWidget& parent, Captions& captions, std::span<const OptionRow> rows, int index, std::size_t record);
 
   /// Lays the rows from `first` on, `count` of them, one below the other: labels in `column`, lists beside them.
   void lay_out(QGridLayout& grid, int first_line = 0, int column = 0, std::size_t first = 0,
