@@ -11,6 +11,13 @@
 #include "editors/program/frm_department_program.h"
 #include "editors/program/frm_ns_menu_setting.h"
 #include "editors/program/frm_set_vat_rate.h"
+#include "editors/setting/frm_clerk_menu_setup.h"
+#include "editors/setting/frm_ej_setup.h"
+#include "editors/setting/frm_hospitality_setup.h"
+#include "editors/setting/frm_initial_menu.h"
+#include "editors/setting/frm_print_mode.h"
+#include "editors/setting/frm_report_setup.h"
+#include "editors/setting/frm_working_mode.h"
 #include "image/side_files.h"
 #include "lang/language.h"
 #include "screens/frm_pres.h"
@@ -68,6 +75,13 @@ void register_screens() {
   register_one<FrmSetVatRate>("FrmSetVatRate");
   register_one<FrmDepartmentProgram>("FrmDepartmentProgram");
   register_one<FrmNSMenuSetting>("FrmNSMenuSetting");
+  register_one<FrmInitialMenu>("FrmInitialMenu");
+  register_one<FrmWorkingMode>("FrmWorkingMode");
+  register_one<FrmPrintMode>("FrmPrintMode");
+  register_one<FrmReportSetup>("FrmReportSetup");
+  register_one<FrmEJSetup>("FrmEJSetup");
+  register_one<FrmHospitalitySetup>("FrmHospitalitySetup");
+  register_one<FrmClerkMenuSetup>("FrmClerkMenuSetup");
 }
 
 void Main(Stage& stage, const QString& application_folder, const QString& command_line) {
