@@ -242,13 +242,6 @@ const QStringList not_there_yet = {
     "FrmProgramMode.C_SystemOption",
     "FrmProgramMode.C_PopUpPluList",
     "FrmProgramMode.C_Custom_Import",
-    "FrmSettingMode.C_Initial_Setup",
-    "FrmSettingMode.C_Working_Mode",
-    "FrmSettingMode.C_Print_Out_Mode",
-    "FrmSettingMode.C_Report_Setup",
-    "FrmSettingMode.C_EJ_Setup",
-    "FrmSettingMode.C_Hospitality_Setup",
-    "FrmSettingMode.C_Clerk_Setup",
 };
 
 TEST_F(MenusTest, TheButtonsWithoutAScreenAreTheseAndSaySo) {
