@@ -20,12 +20,11 @@ FrmInitialMenu::FrmInitialMenu()
       frame_{*this, ScreenFrame::Corner::picture},
       lists_{*this, frame_.captions, setting::initial_menu_rows},
       Cmb_Lingua{lists_.list("Cmb_Lingua")},
-      L_BusinessID{},
       E_BusinessID{new Field{QStringLiteral("E_BusinessID"), this}},
+      L_BusinessID{make_label(QStringLiteral("L_BusinessID"), this, E_BusinessID)},
       C_SettaLingua{new CommandButton{QStringLiteral("C_SettaLingua"), this}} {
   frame_.captions.add(*this, Key::FRM_INITIAL_MENU_TITLE, "Initial Setup");
   frame_.captions.add(*frame_.top.L_Titolo, Key::FRM_INITIAL_MENU_L_TITOLO, "INITIAL SETUP MENU");
-  L_BusinessID = make_label(QStringLiteral("L_BusinessID"), this, E_BusinessID);
   frame_.captions.add(*L_BusinessID, Key::FRM_INITIAL_MENU_L_BUSINESS_ID_MSG, "Business ID");
   E_BusinessID->setMaxLength(business_id_digits);
   E_BusinessID->let_in(Field::Keys::digits);
@@ -43,17 +42,17 @@ FrmInitialMenu::FrmInitialMenu()
   E_BusinessID->hide();
   C_SettaLingua->hide();
 
-  QWidget* before = lists_.first();
-  for (ChoiceList* list : lists_.lists()) {
-    if (list != before) setTabOrder(before, list);
-    before = list;
-  }
-  for (QWidget* next : {static_cast<QWidget*>(C_SettaLingua), static_cast<QWidget*>(frame_.C_Salva),
-                        static_cast<QWidget*>(frame_.C_Invia_Ecr), static_cast<QWidget*>(frame_.C_Annulla),
-                        static_cast<QWidget*>(frame_.top.I_Help)}) {
-    setTabOrder(before, next);
+  QWidget* before = nullptr;
+  const auto follows = [&before](QWidget* next) {
+    if (before != nullptr) setTabOrder(before, next);
     before = next;
-  }
+  };
+  for (ChoiceList* list : lists_.lists()) follows(list);
+  follows(C_SettaLingua);
+  follows(frame_.C_Salva);
+  follows(frame_.C_Invia_Ecr);
+  follows(frame_.C_Annulla);
+  follows(frame_.top.I_Help);
   frame_.log_prefixes("FrmInitialMenu form_load: ", "FrmInitialMenu Salva: ");
   frame_.on_save([this] { save(); });
 }

@@ -25,8 +25,8 @@ class FrmInitialMenu : public Screen {
   EditorFrame frame_;
   OptionLists lists_;
   ChoiceList* Cmb_Lingua;
-  QLabel* L_BusinessID;
   Field* E_BusinessID;
+  QLabel* L_BusinessID;
   CommandButton* C_SettaLingua;  ///< fills the texts without a save; with the option DEBUG alone
 };
 

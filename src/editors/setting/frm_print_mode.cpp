@@ -13,7 +13,7 @@ namespace {
 
 struct Tab {
   Key key{};
-  const char* built_in;
+  const char* built_in = "";
 };
 
 // The third one has the fifth key; the keys of tabs 3 and 4 caption nothing.
@@ -98,8 +98,7 @@ QGridLayout* invoice_block(const OptionLists& lists) {
 FrmPrintMode::FrmPrintMode()
     : Screen{QStringLiteral("FrmPrintMode")},
       frame_{*this, ScreenFrame::Corner::none},
-      Tab_Print{new QTabWidget{this}},
-      Tab_PrintReceipt{} {
+      Tab_Print{new QTabWidget{this}} {
   frame_.captions.add(*this, Key::FRM_PRINT_MODE_TITLE, "Print MODE");
   Tab_Print->setObjectName(QStringLiteral("Tab_Print"));
   frame_.body->addWidget(Tab_Print, 1);

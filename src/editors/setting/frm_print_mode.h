@@ -27,7 +27,7 @@ class FrmPrintMode : public Screen {
 
   EditorFrame frame_;
   QTabWidget* Tab_Print;
-  QTabWidget* Tab_PrintReceipt;  ///< on the first tab of the other one
+  QTabWidget* Tab_PrintReceipt = nullptr;  ///< on the first tab of the other one
   std::array<std::optional<OptionLists>, 6> pages_;
 };
 
