@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QPalette>
 #include <QStyleOption>
+#include <QTabBar>
 
 namespace ecr::test {
 namespace {
@@ -121,6 +122,22 @@ TEST_P(LookTest, ACardFillsItsPlaceUpToItsRoundCorners) {
     drawn(QStyle::State_Enabled | QStyle::State_Sunken);
     EXPECT_NE(hovered, palette.color(QPalette::Button));
     EXPECT_NE(at(30, 20), hovered);
+  }
+}
+
+TEST_P(LookTest, TheTabInFrontAloneIsUnderlined) {
+  QTabBar tabs;
+  tabs.addTab(QStringLiteral("First"));
+  tabs.addTab(QStringLiteral("Second"));
+  tabs.resize(tabs.sizeHint());
+  const QRgb accent = QApplication::palette().color(QPalette::Highlight).rgb();
+  for (const int front : {0, 1}) {
+    tabs.setCurrentIndex(front);
+    const QImage seen = tabs.grab().toImage();
+    for (const int tab : {0, 1}) {
+      const QPoint foot{tabs.tabRect(tab).center().x(), tabs.tabRect(tab).bottom()};
+      EXPECT_EQ(seen.pixel(foot * seen.devicePixelRatio()) == accent, tab == front) << "tab " << tab;
+    }
   }
 }
 
