@@ -95,11 +95,11 @@ QGroupBox { border: 1px solid @line; border-radius: 8px; margin-top: 10px; paddi
 QGroupBox::title { subcontrol-origin: margin; left: 12px; padding: 0 4px; color: @muted; }
 QGroupBox#F_Titolo, QGroupBox#Frame1 { border: none; margin: 0; padding: 0; }
 QTabWidget::pane { border: none; border-top: 1px solid @line; }
-QTabBar { qproperty-drawBase: 0; }
+QTabBar { qproperty-drawBase: 0; outline: none; }
 QTabBar::tab { color: @muted; padding: 6px 14px 5px 14px; border: none; border-bottom: 2px solid transparent; }
 QTabBar::tab:hover, QTabBar::tab:selected { color: @text; }
 QTabBar::tab:selected { border-bottom-color: @accent; }
-QTabBar::tab:focus { background: @hover; }
+QTabBar::tab:focus { color: @accent; background: @hover; }
 QWidget#WaitCard { background: @base; border: 1px solid @line; border-radius: 10px; }
 QScrollBar:vertical { background: transparent; width: 12px; margin: 2px; }
 QScrollBar:horizontal { background: transparent; height: 12px; margin: 2px; }

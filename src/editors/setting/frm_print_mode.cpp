@@ -1,6 +1,8 @@
 #include "editors/setting/frm_print_mode.h"
 
+#include <algorithm>
 #include <span>
+#include <vector>
 
 #include <QGridLayout>
 #include <QVBoxLayout>
@@ -69,28 +71,50 @@ void lay(QTabWidget& tabs, std::span<const Tab> captions) {
   tabs.setCurrentIndex(0);
 }
 
-/// Invoice and review down the left side, what the proforma and the new balance print down the right one. The two long
-/// captions have two lines of the grid each.
+// The rows of the invoice page: four of the invoice, four of the review and one of what the proforma prints, four of
+// the new balance and one of what it prints.
+constexpr std::size_t of_invoice = 0;
+constexpr std::size_t of_review = 4;
+constexpr std::size_t on_proforma = 8;
+constexpr std::size_t of_new_balance = 9;
+constexpr std::size_t on_new_balance = 13;
+constexpr std::size_t in_group = 4;
+
+/// Invoice beside new balance, below them the review beside what the two others print. The two long captions have two
+/// lines of the grid each.
 QGridLayout* invoice_block(const OptionLists& lists) {
-  constexpr std::size_t left = 8;
-  constexpr int right_column = 3;
+  constexpr int gap_line = in_group;
+  constexpr int lower = gap_line + 1;
+  constexpr int right = 3;
   auto* grid = new QGridLayout;
   grid->setHorizontalSpacing(16);
   grid->setVerticalSpacing(10);
-  lists.lay_out(*grid, 0, 0, 0, left);
-  const auto long_row = [&](std::string_view control, int line) {
+  lists.lay_out(*grid, 0, 0, of_invoice, in_group);
+  lists.lay_out(*grid, lower, 0, of_review, in_group);
+  lists.lay_out(*grid, 0, right, of_new_balance, in_group);
+  int line = lower;
+  for (const std::size_t row : {on_proforma, on_new_balance}) {
+    const std::string_view control = rows_of(invoice_page)[row].control;
     lists.label(control)->setWordWrap(true);
-    grid->addWidget(lists.label(control), line, right_column, 2, 1);
-    grid->addWidget(lists.list(control), line, right_column + 1, 2, 1);
-  };
-  long_row("Cmb_VatAmountTaxableAmountAmountOutOfVatPrintOnProforma", 0);
-  lists.lay_out(*grid, 2, right_column, left + 1, 4);
-  long_row("Cmb_VatAmountTaxableAmountAmountOutOfVatPrintOnNewBalance", 6);
+    grid->addWidget(lists.label(control), line, right, 2, 1);
+    grid->addWidget(lists.list(control), line, right + 1, 2, 1);
+    line += 2;
+  }
+  grid->setRowMinimumHeight(gap_line, 14);
   grid->setColumnMinimumWidth(2, 24);
-  grid->setColumnStretch(1, 2);
-  grid->setColumnStretch(right_column, 2);
-  grid->setColumnStretch(right_column + 1, 2);
+  for (const int column : {1, right, right + 1}) grid->setColumnStretch(column, 2);
   return grid;
+}
+
+/// The lists of a page as the eye goes over them.
+std::vector<ChoiceList*> lists_in_order(const OptionLists& page, std::size_t number) {
+  std::vector<ChoiceList*> lists = page.lists();
+  // What the proforma prints stands below the new balance.
+  if (number == invoice_page) {
+    const auto at = [&lists](std::size_t row) { return lists.begin() + static_cast<std::ptrdiff_t>(row); };
+    std::rotate(at(on_proforma), at(of_new_balance), at(on_new_balance));
+  }
+  return lists;
 }
 
 }  // namespace
@@ -136,8 +160,8 @@ void FrmPrintMode::order_tabs() {
     before = next;
   };
   follows(Tab_PrintReceipt);
-  for (const auto& page : pages_) {
-    for (ChoiceList* list : page->lists()) follows(list);
+  for (std::size_t i = 0; i < pages_.size(); ++i) {
+    for (ChoiceList* list : lists_in_order(*pages_.at(i), i)) follows(list);
   }
   follows(frame_.C_Salva);
   follows(frame_.C_Invia_Ecr);
