@@ -6,6 +6,8 @@
 
 #include "core/files.h"
 #include "core/system.h"
+#include "emulator/logo_conversion.h"
+#include "emulator/receipt.h"
 #include "emulator/tool_codes.h"
 
 namespace ecr {
@@ -84,16 +86,11 @@ std::optional<std::int32_t> EmulatedRegister::send_logo(const char* bitmap_folde
   const std::string note = "send_logo source=" + given_ + " target1=" + std::string{text_of(bitmap_folder)} +
                            " target2=" + std::string{text_of(name)} + " timeout=" + std::to_string(timeout);
   return call(note, std::nullopt, [bitmap_folder, name](const RegisterSettings& settings) {
-    if (const std::optional<std::int32_t> code = settings.logo_answer()) return *code;
-    if (bitmap_folder == nullptr || name == nullptr) return PictureCode::missing_argument;
-    std::string head;
-    const Fault fault = read_file(folder_form(bitmap_folder) + name, head, 2);
-    if (fault.stands()) {
-      return code_of_reading(fault) == ToolCode::file_not_read ? PictureCode::not_read : PictureCode::not_opened;
-    }
-    if (head != "BM") return PictureCode::no_bitmap;
-    // It knows the form of no logo yet.
-    return PictureCode::unknown_type;
+    const std::optional<std::int32_t> set = settings.logo_answer();
+    if (set && !says_converted(*set)) return *set;
+    if (bitmap_folder == nullptr || name == nullptr) return set.value_or(PictureCode::missing_argument);
+    const std::int32_t code = convert_logo(folder_form(bitmap_folder), name);
+    return set.value_or(code);
   });
 }
 
@@ -143,7 +140,10 @@ std::int32_t EmulatedRegister::download(std::uint8_t file) const {
   if (!RegisterMemory::fits(file, bytes)) return ToolCode::refused;
   const bool held_before = file_exists(register_ + std::string{name});
   const Fault not_held = memory_.hold(file, bytes);
-  return not_held.stands() ? code_of_writing(not_held, held_before) : ToolCode::done;
+  if (not_held.stands()) return code_of_writing(not_held, held_before);
+  // The picture is for whoever looks; the register holds the logo without it.
+  if (file == ToolFile::logo) static_cast<void>(draw_receipt(register_));
+  return ToolCode::done;
 }
 
 std::int32_t EmulatedRegister::report(std::uint8_t file) const {

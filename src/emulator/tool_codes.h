@@ -26,11 +26,18 @@ inline constexpr std::int32_t timeout = 9999;
 
 /// Codes of the call that converts a picture.
 namespace PictureCode {
+inline constexpr std::int32_t done = 0;  ///< of a step; the call itself never ends with it
+inline constexpr std::int32_t converted = 0x01000000;
+inline constexpr std::int32_t converted_most = 0x01006464;
 inline constexpr std::int32_t missing_argument = 0x04010000;
 inline constexpr std::int32_t not_opened = 0x08010000;
 inline constexpr std::int32_t not_read = 0x08020000;
+inline constexpr std::int32_t not_made = 0x08030000;
+inline constexpr std::int32_t not_written = 0x08040000;
 inline constexpr std::int32_t no_bitmap = 0x10010000;
+inline constexpr std::int32_t not_black_and_white = 0x10020000;
 inline constexpr std::int32_t unknown_type = 0x10030000;
+inline constexpr std::int32_t too_many_dots = 0x10040000;
 }  // namespace PictureCode
 
 /// File numbers: 0 to 2 are what the register holds, 3 to 21 its reports.

@@ -45,7 +45,7 @@ TEST_F(LibraryTest, MakesAllThreeCalls) {
   EXPECT_EQ(bytes("Dati/PRG_MODE.BIN"), bytes_for_image(1));
   EXPECT_EQ(range_report(12), done);
   EXPECT_TRUE(exists("Dati/TIME.bin"));
-  EXPECT_EQ(send_logo("LOGO.BMP"), ends_with(0x10030000));
+  EXPECT_EQ(send_logo("LOGO.BMP"), ends_with(0x10010000));
   set("fails = yes");
   EXPECT_EQ(send_cmd(upload, 0), not_made);
 }
