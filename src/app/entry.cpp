@@ -20,6 +20,7 @@
 #include "editors/setting/frm_working_mode.h"
 #include "image/side_files.h"
 #include "lang/language.h"
+#include "logo/frm_set_logo.h"
 #include "screens/frm_pres.h"
 #include "screens/frm_program_mode.h"
 #include "screens/frm_setting_mode.h"
@@ -82,6 +83,7 @@ void register_screens() {
   register_one<FrmEJSetup>("FrmEJSetup");
   register_one<FrmHospitalitySetup>("FrmHospitalitySetup");
   register_one<FrmClerkMenuSetup>("FrmClerkMenuSetup");
+  register_one<FrmSetLogo>("FrmSetLogo");
 }
 
 void Main(Stage& stage, const QString& application_folder, const QString& command_line) {

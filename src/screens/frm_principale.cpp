@@ -81,13 +81,7 @@ FrmPrincipale::FrmPrincipale(const QString& port_text)
   C_NuovaProgrammazione->on_click([this] { new_programming(); });
   C_ModificaProgrammazione->on_click([this] { update_programming(); });
   C_Back->on_click([this] { unload(); });
-  const QString logo = QStringLiteral("FrmSetLogo");
-  if (has_screen(logo)) {
-    C_Logo->on_click([this, logo] { open(make_screen(logo)); });
-  } else {
-    C_Logo->setEnabled(false);
-    C_Logo->setToolTip(QStringLiteral("Not part of this version yet"));
-  }
+  C_Logo->on_click([this] { open(make_screen(QStringLiteral("FrmSetLogo"))); });
   watch_banner([this](std::string_view banner) { L_Release_Fw->setText(screen_text(banner)); });
 }
 

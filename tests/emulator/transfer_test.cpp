@@ -208,8 +208,10 @@ TEST(EmulatedRegisterCodes, AreAllKnownToTheProgram) {
         ToolCode::file_not_written, ToolCode::refused, ToolCode::timeout}) {
     EXPECT_NE(NumToDesc_RegWire(code), "No description") << code;
   }
-  for (const std::int32_t code : {PictureCode::missing_argument, PictureCode::not_opened, PictureCode::not_read,
-                                  PictureCode::no_bitmap, PictureCode::unknown_type}) {
+  for (const std::int32_t code :
+       {PictureCode::missing_argument, PictureCode::not_opened, PictureCode::not_read, PictureCode::no_bitmap,
+        PictureCode::unknown_type, PictureCode::not_made, PictureCode::not_written, PictureCode::not_black_and_white,
+        PictureCode::too_many_dots}) {
     EXPECT_NE(NumToDesc_RegPix(code), "No description") << code;
   }
 }

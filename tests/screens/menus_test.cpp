@@ -224,7 +224,6 @@ TEST_F(MenusTest, MenusHoldNoDataOfTheProgramming) {
 // What the menus name and the program does not have yet. This list must shrink to nothing: whoever builds a screen
 // takes its button off, and the last one takes the list away.
 const QStringList not_there_yet = {
-    "FrmPrincipale.C_Logo",
     "FrmSetup.C_MessageSetup",
     "FrmSetup.C_Report",
     "FrmSetup.C_AdvancedSetting",

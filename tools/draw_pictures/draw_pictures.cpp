@@ -36,6 +36,7 @@ std::vector<Picture> draw_all() {
       {"ECRZ300@2x.png", draw_register_z300(2)},
       {"ECRZ320.png", draw_register_z320(1)},
       {"ECRZ320@2x.png", draw_register_z320(2)},
+      {"sample_logo.bmp", draw_sample_logo()},
       {"UK.gif", draw_flag_uk()},
       {"Spain.gif", draw_flag_spain()},
       {"France.gif", draw_flag_france()},
@@ -60,7 +61,8 @@ bool write(const QImage& image, const QString& path) {
     writer.setQuality(95);
     writer.setOptimizedWrite(true);
   }
-  return writer.write(image.convertToFormat(QImage::Format_RGB888));
+  const bool is_black_and_white = image.format() == QImage::Format_Mono;
+  return writer.write(is_black_and_white ? image : image.convertToFormat(QImage::Format_RGB888));
 }
 
 }  // namespace

@@ -15,6 +15,8 @@ QImage draw_corner(int width, int scale);  ///< `width` units wide, five eighths
 QImage draw_register_z300(int scale);  ///< 320 x 240 units
 QImage draw_register_z320(int scale);  ///< 320 x 240 units
 
+QImage draw_sample_logo();  ///< 384 x 162 dots of paper, one bit each: a logo as the register takes it
+
 // Flags, 48 x 32 pixels, opaque.
 QImage draw_flag_uk();
 QImage draw_flag_spain();

@@ -1,0 +1,178 @@
+#include "logo/frm_set_logo.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QImage>
+#include <QVBoxLayout>
+
+#include "core/catalogue.h"
+#include "core/files.h"
+#include "core/global.h"
+#include "core/shell.h"
+#include "image/side_files.h"
+#include "logo/file_path.h"
+#include "logo/paper_preview.h"
+#include "logo/send_logo.h"
+#include "widgets/look.h"
+#include "widgets/screen_text.h"
+
+namespace ecr {
+namespace {
+
+/// The filter as the toolkit writes it: what stands in front of the bar, whose brackets hold the pattern.
+const QString bitmap_filter = QStringLiteral("File Bitmap(*.bmp)");
+const QString journal_filter = QStringLiteral("File Journal(*.bin)");
+
+QString what_fits() {
+  return QStringLiteral(
+             "The register takes a black-and-white bitmap of exactly %1 bytes: %2 dots wide and %3 high, "
+             "one bit for each dot, without compression.")
+      .arg(logo_bitmap_size)
+      .arg(logo_dots)
+      .arg(logo_lines);
+}
+
+/// What the person should know of a bitmap that has the right length, before the conversion finds it out.
+QString note_about(const QImage& picture) {
+  if (picture.isNull()) {
+    return QStringLiteral(
+        "The file has the right length, but it cannot be shown: it may be no bitmap, and the "
+        "register's converter will refuse it.");
+  }
+  QString note = QStringLiteral("%1 dots wide and %2 high").arg(picture.width()).arg(picture.height());
+  note += picture.depth() == 1
+              ? QStringLiteral(".")
+              : QStringLiteral(", but not one bit for each dot: the register's converter will refuse it.");
+  return note;
+}
+
+}  // namespace
+
+FrmSetLogo::FrmSetLogo()
+    : Screen{QStringLiteral("FrmSetLogo")},
+      frame_{*this, ScreenFrame::Corner::none},
+      C_Sfoglia{new CommandButton{QStringLiteral("C_Sfoglia"), this}},
+      C_EJ{new CommandButton{QStringLiteral("C_EJ"), this}},
+      C_Annulla{new CommandButton{QStringLiteral("C_Annulla"), this}},
+      C_Invia_Ecr{new CommandButton{QStringLiteral("C_Invia_Ecr"), this}},
+      L_percorso{new FilePath{QStringLiteral("L_percorso"), QStringLiteral("No file chosen"), this}},
+      I_Anteprima{new PaperPreview{QStringLiteral("I_Anteprima"), QStringLiteral("The logo stands here"), this}},
+      L_Nota{make_label(QStringLiteral("L_Nota"), this)} {
+  captions_.add(*this, Key::FRM_SET_LOGO_TITLE, "SET LOGO");
+  captions_.add(*frame_.L_Titolo, Key::FRM_SET_LOGO_L_TITOLO, "SET LOGO");
+  captions_.add(*C_Sfoglia, Key::FRM_SET_LOGO_C_SFOGLIA, "Browse");
+  Captions::fix(*C_EJ, "EJ");
+  captions_.add(*C_Annulla, Key::FRM_ALL_C_ANNULLA, "Back");
+  captions_.add(*C_Invia_Ecr, Key::FRM_ALL_C_INVIA_ECR, "Send to ECR");
+  C_EJ->setToolTip(QStringLiteral("Open an electronic journal file"));
+  L_percorso->setAccessibleName(QStringLiteral("Path"));
+  I_Anteprima->setAccessibleName(QStringLiteral("Preview"));
+  C_Invia_Ecr->emphasise();
+  lay_out();
+  C_Sfoglia->on_click([this] { browse(); });
+  C_EJ->on_click([this] { open_journal(); });
+  C_Annulla->on_click([this] { unload(); });
+  C_Invia_Ecr->on_click([this] { send(); });
+}
+
+void FrmSetLogo::lay_out() {
+  auto* file = new QHBoxLayout;
+  file->setSpacing(10);
+  file->addWidget(C_Sfoglia);
+  file->addWidget(C_EJ);
+  file->addSpacing(6);
+  file->addWidget(L_percorso, 1);
+  frame_.body->addLayout(file);
+
+  L_Nota->setWordWrap(true);
+  make_hint(*L_Nota);
+  auto* middle = new QHBoxLayout;
+  middle->setSpacing(24);
+  middle->addWidget(I_Anteprima, 0, Qt::AlignTop);
+  middle->addWidget(L_Nota, 1, Qt::AlignTop);
+  frame_.body->addLayout(middle, 1);
+  frame_.body->addStretch(1);
+
+  auto* bar = new QHBoxLayout;
+  bar->addWidget(C_Annulla);
+  bar->addStretch(1);
+  bar->addWidget(C_Invia_Ecr);
+  frame_.body->addLayout(bar);
+}
+
+void FrmSetLogo::load() {
+  frame_.load_band(QStringLiteral("GRAPHIC.BIN"));
+  captions_.lay();
+  select_text_ = message_or(Key::FRM_SET_LOGO_SEL_FILE_SEND_MSG, "Select the file to send");
+  programmed_text_ = message_or(Key::FRM_SET_LOGO_PROGRAMMED_MSG, "Logo Programmed");
+  blank_text_ = message_or(Key::FRM_SET_LOGO_PATH_ERROR_MSG,
+                           "Is not spossible send a logo that has a Space (' ') in the source path.");
+  Comm_Percorso.filter = bitmap_filter;
+  Comm_Percorso.title = QStringLiteral("Percorso Immagine");
+  // The sample that comes with the installation.
+  Comm_Percorso.folder = path_for_toolkit(host_path(Global::PathApp + "Logo"));
+  L_Nota->setText(what_fits());
+}
+
+QString FrmSetLogo::choose() {
+  const QString path =
+      QFileDialog::getOpenFileName(this, Comm_Percorso.title, Comm_Percorso.folder, Comm_Percorso.filter);
+  if (!path.isEmpty()) Comm_Percorso.folder = QFileInfo{path}.path();
+  return path;
+}
+
+void FrmSetLogo::show_path(const QString& path) {
+  path_ = backslash_path(path_of_toolkit(path));
+  L_percorso->show_path(path);
+}
+
+void FrmSetLogo::browse() {
+  show_path({});
+  I_Anteprima->show_picture({});
+  L_Nota->setText(what_fits());
+  const QString path = choose();
+  if (path.isEmpty()) return;
+  const std::string bytes = logo_bitmap(backslash_path(path_of_toolkit(path)));
+  if (bytes.empty()) {
+    tell(BoxKind::plain, "Image to upload not correct");
+    return;
+  }
+  show_path(path);
+  const QImage picture =
+      QImage::fromData(QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size())), "BMP");
+  I_Anteprima->show_picture(picture);
+  QString note = note_about(picture);
+  if (path.contains(u' ')) {
+    note += QStringLiteral("\n\nThe path has a blank in it, so the logo cannot be sent from there.");
+  }
+  L_Nota->setText(note);
+  C_Invia_Ecr->setFocus(Qt::OtherFocusReason);
+}
+
+void FrmSetLogo::open_journal() {
+  Comm_Percorso.filter = journal_filter;
+  Comm_Percorso.title = QStringLiteral("Percorso File giornale");
+  const QString path = choose();
+  if (path.isEmpty()) return;
+  show_path(path);
+  I_Anteprima->show_picture({});
+  Read_EJ(path_);
+  L_Nota->setText(QStringLiteral("A journal file of %1 records.").arg(Ej.Records.size()));
+}
+
+void FrmSetLogo::send() {
+  if (path_.empty()) {
+    tell(BoxKind::information, select_text_);
+    return;
+  }
+  if (path_.find(' ') != std::string::npos) {
+    tell(BoxKind::critical, blank_text_);
+    return;
+  }
+  const BusyPointer busy;
+  const SplitPath path = split_path(path_);
+  if (Send_LogoToEcr(Global::PathApp, path.folder, path.name)) tell(BoxKind::plain, programmed_text_);
+}
+
+}  // namespace ecr
