@@ -116,8 +116,11 @@ void FrmSetLogo::load() {
 }
 
 QString FrmSetLogo::choose() {
-  const QString path =
-      QFileDialog::getOpenFileName(this, Comm_Percorso.title, Comm_Percorso.folder, Comm_Percorso.filter);
+  QFileDialog dialog{this, Comm_Percorso.title, Comm_Percorso.folder, Comm_Percorso.filter};
+  // The journal's filter stays when it comes to the next bitmap: whoever types a name may leave the filter aside.
+  dialog.setFileMode(QFileDialog::AnyFile);
+  if (dialog.exec() != QDialog::Accepted) return {};
+  const QString path = dialog.selectedFiles().value(0);
   if (!path.isEmpty()) Comm_Percorso.folder = QFileInfo{path}.path();
   return path;
 }
@@ -154,7 +157,8 @@ void FrmSetLogo::open_journal() {
   Comm_Percorso.filter = journal_filter;
   Comm_Percorso.title = QStringLiteral("Percorso File giornale");
   const QString path = choose();
-  if (path.isEmpty()) return;
+  // A journal that is not there would be made by reading it.
+  if (path.isEmpty() || !QFileInfo{path}.isFile()) return;
   show_path(path);
   I_Anteprima->show_picture({});
   Read_EJ(path_);

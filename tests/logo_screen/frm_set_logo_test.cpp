@@ -277,6 +277,25 @@ TEST_F(FrmSetLogoTest, TheJournalsFilterStaysInTheChooserUntilTheScreenIsOpenedA
   EXPECT_EQ(title, QStringLiteral("Percorso Immagine"));
 }
 
+TEST_F(FrmSetLogoTest, UnderTheJournalsFilterABitmapCanStillBeNamed) {
+  open("FrmSetLogo");
+  open_journal("");
+  browse("Pictures/shop.bmp");
+  EXPECT_EQ(path(), host("Pictures/shop.bmp"));
+  EXPECT_TRUE(previews());
+}
+
+TEST_F(FrmSetLogoTest, ANameWithoutAFileIsNoBitmapAndNoJournal) {
+  open("FrmSetLogo");
+  expect_box(BoxKind::plain, "Image to upload not correct");
+  browse("Pictures/missing.bmp");
+  EXPECT_EQ(path(), "");
+  browse("Pictures/shop.bmp");
+  open_journal("Dati/missing.bin");
+  EXPECT_EQ(path(), host("Pictures/shop.bmp"));
+  EXPECT_FALSE(exists("Dati/missing.bin"));
+}
+
 TEST_F(FrmSetLogoTest, JournalFilesOfAnyBytesAreTaken) {
   open("FrmSetLogo");
   for (const std::size_t length : {0U, 1U, 25U, 26U, 27U, 39U, 40U, 1000U}) {

@@ -80,6 +80,23 @@ click C_Annulla
 screen FrmProgramMode
 click C_Exit
 click C_Exit
+
+# A logo for the receipts, and what a receipt of the register looks like then.
+click C_Logo
+screen FrmSetLogo
+picture pictures/z320/13-logo.png
+click C_Sfoglia
+picture pictures/z320/14-logo-chooser.png
+file Logo/sample_logo.bmp
+expect-like L_percorso "*sample_logo.bmp"
+picture pictures/z320/15-logo-chosen.png
+click C_Invia_Ecr
+picture pictures/z320/16-logo-sent.png
+box plain * Ok
+expect-same Dati/GRAPHIC.BIN register/GRAPHIC.BIN
+copy register/receipt.bmp pictures/z320/17-receipt.bmp
+click C_Annulla
+
 click C_Back
 screen FrmPres
 click C_Exit
@@ -93,6 +110,10 @@ picture pictures/z300/01-start.png
 click C_Z300
 screen FrmPrincipale
 picture pictures/z300/03-main-menu.png
+click C_Logo
+screen FrmSetLogo
+picture pictures/z300/13-logo.png
+click C_Annulla
 click C_ModificaProgrammazione
 box plain * Yes
 screen FrmSetup
