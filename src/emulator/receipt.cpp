@@ -13,9 +13,10 @@ namespace ecr {
 namespace {
 
 constexpr std::size_t paper_dots = 384;
-constexpr std::size_t side = 24;    // of paper beside what is printed
-constexpr std::size_t around = 16;  // of the ground around the paper
-constexpr std::size_t gap = 28;     // above and below the logo
+constexpr std::size_t most_lines = 2048;  // of a logo; what is longer is cut there
+constexpr std::size_t side = 24;          // of paper beside what is printed
+constexpr std::size_t around = 16;        // of the ground around the paper
+constexpr std::size_t gap = 28;           // above and below the logo
 constexpr std::size_t line_step = 24;
 constexpr std::size_t bar = 9;
 constexpr std::size_t tooth = 12;  // of the torn end, twice as wide as it is high
@@ -81,15 +82,16 @@ void tear(Canvas& canvas, std::size_t y, std::size_t from, std::size_t width) {
 
 std::string receipt_picture(const DotPicture& logo) {
   const std::size_t printed = std::max(paper_dots, logo.dots);
+  const std::size_t lines = std::min(logo.lines, most_lines);
   const std::size_t paper_width = printed + 2 * side;
-  const std::size_t paper_height = gap + logo.lines + gap + bars.size() * line_step;
+  const std::size_t paper_height = gap + lines + gap + bars.size() * line_step;
   Canvas canvas{paper_width + 2 * around, around + paper_height + tooth + around};
   canvas.box(around, around, paper_width, paper_height, paper);
   tear(canvas, around + paper_height, around, paper_width);
 
   const std::size_t left = around + side;
   const std::size_t logo_left = left + (printed - logo.dots) / 2;
-  for (std::size_t line = 0; line < logo.lines; ++line) {
+  for (std::size_t line = 0; line < lines; ++line) {
     for (std::size_t dot = 0; dot < logo.dots; ++dot) {
       if (logo.is_printed(dot, line)) canvas.box(logo_left + dot, around + gap + line, 1, 1, ink);
     }
@@ -97,7 +99,7 @@ std::string receipt_picture(const DotPicture& logo) {
   for (std::size_t i = 0; i < bars.size(); ++i) {
     const std::size_t width = printed * bars.at(i) / 100;
     const std::size_t x = i < bars_in_the_middle ? left + (printed - width) / 2 : left;
-    canvas.box(x, around + gap + logo.lines + gap + i * line_step, width, bar, faint);
+    canvas.box(x, around + gap + lines + gap + i * line_step, width, bar, faint);
   }
   return bitmap_of(canvas);
 }

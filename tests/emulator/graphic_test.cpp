@@ -95,5 +95,10 @@ TEST(Receipt, ThePaperIsAsWideAsAWiderLogo) {
   EXPECT_EQ(dot_of(picture, 40 + 2047, 46), paper);
 }
 
+TEST(Receipt, AVeryLongLogoIsCut) {
+  EXPECT_EQ(receipt_picture(all_of(8, 65532, '\xFF')), receipt_picture(all_of(8, 2048, '\xFF')));
+  EXPECT_NE(receipt_picture(all_of(8, 2047, '\xFF')), receipt_picture(all_of(8, 2048, '\xFF')));
+}
+
 }  // namespace
 }  // namespace ecr::test

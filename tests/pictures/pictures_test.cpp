@@ -10,6 +10,7 @@
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QHash>
 #include <QImage>
 #include <QImageReader>
@@ -174,6 +175,22 @@ TEST_F(Pictures, AFinerPictureShowsTheSameAsItsCoarseOne) {
     }
     EXPECT_LT(difference, coarse.width() * coarse.height() * 2) << name;  // on average, of 510 for a pixel
   }
+}
+
+TEST_F(Pictures, TheSampleLogoIsOneThatTheRegisterTakes) {
+  const QString path = QStringLiteral(VERMANTO_SETUP "/../Logo/sample_logo.bmp");
+  EXPECT_EQ(QFileInfo(path).size(), 7838);
+  QImageReader reader(path);
+  EXPECT_EQ(reader.format(), QByteArray("bmp"));
+  const QImage logo = reader.read();
+  EXPECT_EQ(logo.size(), QSize(384, 162));
+  EXPECT_EQ(logo.depth(), 1);
+  int black = 0;
+  for (int y = 0; y < logo.height(); ++y) {
+    for (int x = 0; x < logo.width(); ++x) black += qGray(logo.pixel(x, y)) == 0 ? 1 : 0;
+  }
+  EXPECT_GT(black, 384 * 162 / 20) << "something is drawn";
+  EXPECT_LT(black, 384 * 162 / 2);
 }
 
 TEST_F(Pictures, TheTwoModelsLookDifferent) {

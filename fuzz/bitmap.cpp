@@ -1,0 +1,54 @@
+// Bitmaps of any bytes: each ends with a code that has a meaning, and what is read is a whole picture that goes into
+// the register's form and back.
+
+#include "emulator/bitmap.h"
+
+#include <algorithm>
+#include <array>
+
+#include "emulator/graphic.h"
+#include "emulator/logo_conversion.h"
+#include "emulator/receipt.h"
+#include "emulator/tool_codes.h"
+#include "support/installation.h"
+
+namespace {
+
+using namespace ecr;
+using namespace ecr::fuzz;
+
+constexpr std::array<std::int32_t, 5> faults = {PictureCode::no_bitmap, PictureCode::not_black_and_white,
+                                                PictureCode::unknown_type, PictureCode::too_many_dots,
+                                                PictureCode::not_made};
+
+void check_picture(const DotPicture& picture) {
+  require(fits_graphic(picture), "what is read fits into the register");
+  require(picture.rows.size() == picture.row_bytes() * picture.lines, "every line is there");
+  if (picture.dots % 8 != 0) {
+    for (std::size_t line = 0; line < picture.lines; ++line) {
+      const auto last = static_cast<unsigned char>(picture.rows[(line + 1) * picture.row_bytes() - 1]);
+      require((last & (0xFFU >> (picture.dots % 8))) == 0, "nothing is printed behind the last dot");
+    }
+  }
+  require(picture_in_graphic(graphic_of(picture)) == picture, "the register's form gives it back");
+  require(says_converted(code_of_fullness(picture)), "it ends with a code of success");
+  // A long one takes longer than it teaches.
+  if (picture.lines <= 16) require(!receipt_picture(picture).empty(), "a receipt can be drawn");
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const std::string file = file_of(data, size);
+  DotPicture picture;
+  const std::int32_t code = read_bitmap(file, picture);
+  if (code == PictureCode::done) {
+    check_picture(picture);
+  } else {
+    require(std::find(faults.begin(), faults.end(), code) != faults.end(), "the code is one of the reader's faults");
+    require(picture == DotPicture{}, "a fault leaves no picture");
+  }
+  // The register may hold any bytes as its logo.
+  if (const auto held = picture_in_graphic(file)) require(graphic_of(*held) == file, "a logo is its own form");
+  return 0;
+}
