@@ -1,10 +1,12 @@
 #include "logo/file_path.h"
 
+#include <utility>
+
 #include <QPainter>
 
 namespace ecr {
 
-FilePath::FilePath(const QString& name, const QString& hint, QWidget* parent) : QLabel{parent}, hint_{hint} {
+FilePath::FilePath(const QString& name, QString hint, QWidget* parent) : QLabel{parent}, hint_{std::move(hint)} {
   setObjectName(name);
   setTextFormat(Qt::PlainText);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);

@@ -12,7 +12,7 @@ class FilePath : public QLabel {
   Q_OBJECT
 
  public:
-  FilePath(const QString& name, const QString& hint, QWidget* parent);
+  FilePath(const QString& name, QString hint, QWidget* parent);
 
   void show_path(const QString& path);
 

@@ -120,7 +120,7 @@ QString FrmSetLogo::choose() {
   // The journal's filter stays when it comes to the next bitmap: whoever types a name may leave the filter aside.
   dialog.setFileMode(QFileDialog::AnyFile);
   if (dialog.exec() != QDialog::Accepted) return {};
-  const QString path = dialog.selectedFiles().value(0);
+  QString path = dialog.selectedFiles().value(0);
   if (!path.isEmpty()) Comm_Percorso.folder = QFileInfo{path}.path();
   return path;
 }

@@ -1,6 +1,7 @@
 #include "logo/paper_preview.h"
 
-#include <algorithm>
+#include <array>
+#include <utility>
 
 #include <QPainter>
 #include <QPainterPath>
@@ -25,9 +26,9 @@ constexpr int tooth = 8;
 
 /// What is printed below the logo, as grey bars: how long each is, in percent of the line. The first three stand in the
 /// middle, as the lines of a shop's address.
-constexpr int bars[] = {46, 64, 38, 100, 82, 91};
+constexpr std::array<int, 6> bars = {46, 64, 38, 100, 82, 91};
 constexpr int bars_in_the_middle = 3;
-constexpr int bars_size = static_cast<int>(std::size(bars));
+constexpr int bars_size = static_cast<int>(bars.size());
 
 constexpr QSize paper_size{logo_dots + 2 * side, gap + logo_lines + gap + bars_size* line_step + tooth};
 
@@ -49,7 +50,8 @@ QPainterPath strip(const QRectF& place) {
 
 }  // namespace
 
-PaperPreview::PaperPreview(const QString& name, const QString& hint, QWidget* parent) : QLabel{parent}, hint_{hint} {
+PaperPreview::PaperPreview(const QString& name, QString hint, QWidget* parent)
+    : QLabel{parent}, hint_{std::move(hint)} {
   setObjectName(name);
   setFixedSize(paper_size + QSize{2, 2});
 }
@@ -91,10 +93,12 @@ void PaperPreview::paintEvent(QPaintEvent*) {
     painter.drawImage(shown, picture_);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
   }
-  for (int i = 0; i < bars_size; ++i) {
-    const int width = logo_dots * bars[i] / 100;
-    const int x = place.left() + (i < bars_in_the_middle ? (logo_dots - width) / 2 : 0);
-    painter.fillRect(x, place.bottom() + 1 + gap + i * line_step, width, bar, print);
+  int line = 0;
+  for (const int percent : bars) {
+    const int width = logo_dots * percent / 100;
+    const int x = place.left() + (line < bars_in_the_middle ? (logo_dots - width) / 2 : 0);
+    painter.fillRect(x, place.bottom() + 1 + gap + line * line_step, width, bar, print);
+    ++line;
   }
 }
 

@@ -12,7 +12,7 @@ class PaperPreview : public QLabel {
 
  public:
   /// `hint` stands where the logo will be while there is none.
-  PaperPreview(const QString& name, const QString& hint, QWidget* parent);
+  PaperPreview(const QString& name, QString hint, QWidget* parent);
 
   /// A picture that is wider than the paper is scaled down. A null one leaves the place empty.
   void show_picture(const QImage& picture);
