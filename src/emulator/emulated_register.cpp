@@ -141,8 +141,8 @@ std::int32_t EmulatedRegister::download(std::uint8_t file) const {
   const bool held_before = file_exists(register_ + std::string{name});
   const Fault not_held = memory_.hold(file, bytes);
   if (not_held.stands()) return code_of_writing(not_held, held_before);
-  // The picture is for whoever looks; the register holds the logo without it.
-  if (file == ToolFile::logo) static_cast<void>(draw_receipt(register_));
+  // The picture is for whoever looks; the register holds what it took without it.
+  if (file == ToolFile::logo || file == ToolFile::image) static_cast<void>(draw_receipt(register_));
   return ToolCode::done;
 }
 

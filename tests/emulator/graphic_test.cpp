@@ -1,7 +1,9 @@
 #include "emulator/graphic.h"
 
 #include <gtest/gtest.h>
+#include <map>
 #include <string>
+#include <vector>
 
 #include "emulator/receipt.h"
 
@@ -68,14 +70,14 @@ constexpr int paper = 1;
 constexpr int ink = 2;
 
 TEST(Receipt, IsABitmapOfTheLengthThatItSays) {
-  const std::string picture = receipt_picture(small);
+  const std::string picture = receipt_picture(small, {});
   EXPECT_EQ(picture.substr(0, 2), "BM");
   EXPECT_EQ(number_at(picture, 2), picture.size());
   EXPECT_EQ(number_at(picture, 18), 464U);
 }
 
 TEST(Receipt, ShowsTheLogoDotForDotInTheMiddleOfThePaper) {
-  const std::string picture = receipt_picture(small);
+  const std::string picture = receipt_picture(small, {});
   constexpr std::size_t left = 16 + 24 + (384 - 10) / 2;
   constexpr std::size_t top = 16 + 28;
   for (std::size_t y = 0; y < 2; ++y) {
@@ -88,16 +90,79 @@ TEST(Receipt, ShowsTheLogoDotForDotInTheMiddleOfThePaper) {
 }
 
 TEST(Receipt, ThePaperIsAsWideAsAWiderLogo) {
-  const std::string picture = receipt_picture(all_of(2047, 3, '\xFF'));
+  const std::string picture = receipt_picture(all_of(2047, 3, '\xFF'), {});
   EXPECT_EQ(number_at(picture, 18), 2047U + 80);
   EXPECT_EQ(dot_of(picture, 40, 44), ink);
   EXPECT_EQ(dot_of(picture, 40 + 2046, 46), ink);
   EXPECT_EQ(dot_of(picture, 40 + 2047, 46), paper);
 }
 
+/// How many dots of ink there are below the logo.
+std::size_t ink_below(const std::string& picture, std::size_t y) {
+  std::size_t dots = 0;
+  for (; y < number_at(picture, 22); ++y) {
+    for (std::size_t x = 0; x < number_at(picture, 18); ++x) {
+      if (dot_of(picture, x, y) == ink) ++dots;
+    }
+  }
+  return dots;
+}
+
+TEST(Receipt, BarsStandForLinesThatAreNotThere) {
+  EXPECT_EQ(ink_below(receipt_picture(small, {}), 60), 0U);
+  EXPECT_GT(ink_below(receipt_picture(small, {"x"}), 60), 0U);
+}
+
+TEST(Receipt, EveryPrintableCharacterIsDrawnAndNoTwoAlike) {
+  std::map<std::string, char> seen;
+  for (char character = '!'; character <= '~'; ++character) {
+    const std::string picture = receipt_picture(small, {std::string(1, character)});
+    const auto [place, is_new] = seen.emplace(picture, character);
+    EXPECT_TRUE(is_new) << character << " looks like " << place->second;
+  }
+  EXPECT_EQ(seen.count(receipt_picture(small, {" "})), 0U);
+}
+
+TEST(Receipt, ALetterWithAMarkIsDrawnWithout) {
+  EXPECT_EQ(receipt_picture(small, {"Caf\xE9"}), receipt_picture(small, {"Cafe"}));
+  EXPECT_EQ(receipt_picture(small, {"\xC4\xD6\xDC\xFF"}), receipt_picture(small, {"AOUy"}));
+}
+
+TEST(Receipt, AnyCharactersAreTaken) {
+  std::vector<std::string> lines(100);
+  for (int code = 0; code < 256; ++code) lines.at(static_cast<std::size_t>(code) % 100) += static_cast<char>(code);
+  EXPECT_EQ(receipt_picture(small, lines), receipt_picture(small, {lines.begin(), lines.begin() + 60}));
+}
+
+TEST(Receipt, ALineHas24CharactersThatFillItExactly) {
+  const std::string full = receipt_picture(small, {std::string(24, '#')});
+  EXPECT_EQ(receipt_picture(small, {std::string(25, '#')}), full);
+  EXPECT_NE(receipt_picture(small, {std::string(23, '#')}), full);
+  for (std::size_t y = 60; y < number_at(full, 22); ++y) {
+    for (std::size_t x = 0; x < number_at(full, 18); ++x) {
+      if (dot_of(full, x, y) == ink) {
+        ASSERT_TRUE(x >= 40 && x < 40 + 384) << x;
+      }
+    }
+  }
+}
+
+TEST(Receipt, AJournalsLastReceiptBeginsAtItsMark) {
+  const auto record = [](std::string text, char mark) {
+    text.resize(24, ' ');
+    return text + mark + '\0';
+  };
+  using Lines = std::vector<std::string>;
+  EXPECT_EQ(last_receipt(""), Lines{});
+  EXPECT_EQ(last_receipt(record("one", '\x02') + record("two", '\0')), (Lines{"one", "two"}));
+  EXPECT_EQ(last_receipt(record("one", '\x02') + record("", '\0') + record("two", '\x02') + record("", '\0')),
+            Lines{"two"});
+  EXPECT_EQ(last_receipt(record("one", '\x02') + "a piece of a record"), Lines{"one"});
+}
+
 TEST(Receipt, AVeryLongLogoIsCut) {
-  EXPECT_EQ(receipt_picture(all_of(8, 65532, '\xFF')), receipt_picture(all_of(8, 2048, '\xFF')));
-  EXPECT_NE(receipt_picture(all_of(8, 2047, '\xFF')), receipt_picture(all_of(8, 2048, '\xFF')));
+  EXPECT_EQ(receipt_picture(all_of(8, 65532, '\xFF'), {}), receipt_picture(all_of(8, 2048, '\xFF'), {}));
+  EXPECT_NE(receipt_picture(all_of(8, 2047, '\xFF'), {}), receipt_picture(all_of(8, 2048, '\xFF'), {}));
 }
 
 }  // namespace

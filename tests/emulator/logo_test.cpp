@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 #include <string>
+#include <utility>
+#include <vector>
 
+#include "core/files.h"
 #include "emulator/emulator_test.h"
 #include "emulator/logo_conversion.h"
 #include "emulator/receipt.h"
@@ -13,6 +16,16 @@ namespace {
 
 class LogoTest : public EmulatorTest {
  protected:
+  LogoTest() {
+    std::string image(5656, ' ');
+    image.replace(3257, 24, "The Shop                ");
+    image.replace(3257 + 5 * 24, 24, "  4 Market Square       ");
+    write("register/PRG_MODE.BIN", image);
+  }
+
+  const std::vector<std::string> heading = {"The Shop", "  4 Market Square"};
+  const DotPicture half_black{384, 162, std::string(7776, '\x0F')};
+
   static std::string logo_file(char byte) {
     BitmapFile file;
     file.rows = std::string(7776, byte);
@@ -109,7 +122,43 @@ TEST_F(LogoTest, TheLogoThatWasSentIsSeenOnTheReceipt) {
   write("Dati/GRAPHIC.BIN", graphic('\x0F'));
   EXPECT_EQ(send_cmd(download, 2), done);
   EXPECT_EQ(bytes("register/GRAPHIC.BIN"), graphic('\x0F'));
-  EXPECT_EQ(bytes("register/receipt.bmp"), receipt_picture({384, 162, std::string(7776, '\x0F')}));
+  EXPECT_EQ(bytes("register/receipt.bmp"), receipt_picture(half_black, heading));
+}
+
+TEST_F(LogoTest, TheLastReceiptOfAJournalStandsBelowTheHeading) {
+  const auto record = [](std::string text, char mark) {
+    text.resize(24, ' ');
+    return text + mark + '\0';
+  };
+  const std::string journal = record("The Shop", '\x01') + record("RECEIPT 1", '\x02') + record("Tea", '\0') +
+                              record("RECEIPT 2", '\x02') + record("Coffee              1.80", '\0') + record("", '\0');
+  write("register/GRAPHIC.BIN", graphic('\x0F'));
+  EXPECT_FALSE(draw_receipt(backslash_path(host("register/")), journal).stands());
+  EXPECT_EQ(bytes("register/receipt.bmp"), receipt_picture(half_black, {"The Shop", "  4 Market Square", "",
+                                                                        "RECEIPT 2", "Coffee              1.80"}));
+}
+
+TEST_F(LogoTest, AProgrammingWithOtherLinesDrawsTheReceiptAnew) {
+  std::string image(5656, ' ');
+  image.replace(3257, 24, "Another Shop            ");
+  write("Dati/PRG_MODE.BIN", image);
+  EXPECT_EQ(send_cmd(download, 0), done);
+  EXPECT_FALSE(exists("register/receipt.bmp")) << "there is no logo to show";
+  write("register/GRAPHIC.BIN", graphic('\x0F'));
+  EXPECT_EQ(send_cmd(download, 0), done);
+  EXPECT_EQ(bytes("register/receipt.bmp"), receipt_picture(half_black, {"Another Shop"}));
+}
+
+TEST_F(LogoTest, WithoutProgrammingTheReceiptHasNoHeading) {
+  write("Dati/GRAPHIC.BIN", graphic('\x0F'));
+  for (const std::string& image : {std::string(5655, ' '), std::string(), std::string(5656, ' ')}) {
+    write("register/PRG_MODE.BIN", image);
+    EXPECT_EQ(send_cmd(download, 2), done);
+    EXPECT_EQ(bytes("register/receipt.bmp"), receipt_picture(half_black, {}));
+  }
+  remove("register/PRG_MODE.BIN");
+  EXPECT_EQ(send_cmd(download, 2), done);
+  EXPECT_EQ(bytes("register/receipt.bmp"), receipt_picture(half_black, {}));
 }
 
 TEST_F(LogoTest, ALogoOfAnotherFormIsHeldAndHasNoPicture) {
