@@ -24,6 +24,11 @@ std::string_view trim_end(std::string_view text) noexcept {
   return last == std::string_view::npos ? std::string_view{} : text.substr(0, last + 1);
 }
 
+std::string_view trim_both(std::string_view text) noexcept {
+  text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+  return trim_end(text);
+}
+
 std::string padded(std::string_view text, std::size_t width) {
   std::string result{text.substr(0, width)};
   result.resize(width, ' ');

@@ -20,6 +20,8 @@ namespace ecr {
 
 /// Without the blanks at its end.
 [[nodiscard]] std::string_view trim_end(std::string_view text) noexcept;
+/// Without the blanks at both of its ends.
+[[nodiscard]] std::string_view trim_both(std::string_view text) noexcept;
 
 /// Exactly `width` bytes: cut, or filled with blanks at the end.
 [[nodiscard]] std::string padded(std::string_view text, std::size_t width);

@@ -28,6 +28,10 @@ bool edits_the_number(const QKeyEvent& event) {
          event.matches(QKeySequence::Paste) || event.matches(QKeySequence::Cut);
 }
 
+int number_in(const QString& text) {
+  return static_cast<int>(std::clamp<std::int64_t>(leading_number(page_bytes(text)), 0, 1'000'000));
+}
+
 }  // namespace
 
 ChoiceList::ChoiceList(const QString& name, QWidget* parent, Typing typing) : QComboBox{parent}, typing_{typing} {
@@ -76,6 +80,10 @@ std::uint8_t ChoiceList::number() const {
   return ottieni_numero(page_bytes(text()), ".");
 }
 
+int ChoiceList::whole_number() const {
+  return number_in(text());
+}
+
 void ChoiceList::keyPressEvent(QKeyEvent* event) {
   if (typing_ == Typing::dropped && types_a_character(*event)) {
     event->accept();
@@ -111,10 +119,7 @@ NumberList::NumberList(const QString& name, int last, QWidget* parent) : QComboB
 
 void NumberList::fill() {
   clear();
-  QStringList numbers;
-  numbers.reserve(last_);
-  for (int number = 1; number <= last_; ++number) numbers.append(QString::number(number));
-  addItems(numbers);
+  addItems(bare_numbers(1, last_));
 }
 
 void NumberList::show_number(int number) {
@@ -123,7 +128,7 @@ void NumberList::show_number(int number) {
 }
 
 int NumberList::number() const {
-  return static_cast<int>(std::clamp<std::int64_t>(leading_number(page_bytes(currentText())), 0, 1'000'000));
+  return number_in(currentText());
 }
 
 // The list itself has the focus and hands keys on to its field.
@@ -157,6 +162,13 @@ void NumberList::typed() {
   }
   // An emptied list, or a 0, names no record: the one on screen stays.
   if (click_ && number() > 0) click_(number());
+}
+
+QStringList bare_numbers(int first, int last) {
+  QStringList numbers;
+  numbers.reserve(last - first + 1);
+  for (int number = first; number <= last; ++number) numbers.append(QString::number(number));
+  return numbers;
 }
 
 QString label_of(const QString& entry) {

@@ -38,6 +38,8 @@ class ChoiceList : public QComboBox {
   [[nodiscard]] QString text() const;
   /// The digit of the entry that is shown, 0 where it has none.
   [[nodiscard]] std::uint8_t number() const;
+  /// For lists of bare numbers: the number that the whole text says, 0 where it says none.
+  [[nodiscard]] int whole_number() const;
 
   /// Runs when the person picks an entry, also the one that is shown already; not when the program shows one.
   void on_click(std::function<void()> handler) { click_ = std::move(handler); }
@@ -83,6 +85,9 @@ class NumberList : public QComboBox {
   int last_;
   std::function<void(int)> click_;
 };
+
+/// "0", "1" and so on: the entries of a list of bare numbers.
+[[nodiscard]] QStringList bare_numbers(int first, int last);
 
 /// The label of an entry: all behind its first blank.
 [[nodiscard]] QString label_of(const QString& entry);

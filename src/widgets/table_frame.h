@@ -5,6 +5,7 @@
 
 namespace ecr {
 
+class ChoiceList;
 class NumberList;
 class RecordGrid;
 
@@ -12,6 +13,8 @@ class TableFrame {
  public:
   /// `load_record` puts a record, counted from 1, into the fields.
   TableFrame(NumberList& numbers, RecordGrid& grid, std::function<void(int)> load_record);
+  /// The same with a list that cannot be typed into; its entries are "1" to `last`.
+  TableFrame(ChoiceList& numbers, int last, RecordGrid& grid, std::function<void(int)> load_record);
 
   /// Marks the record in the grid and puts it into the fields.
   void load_record(int number);
@@ -23,7 +26,10 @@ class TableFrame {
   [[nodiscard]] int following_number(int index) const;
 
  private:
-  NumberList& numbers_;
+  void picked(int number);
+
+  int last_;
+  std::function<void(int)> show_number_;
   RecordGrid& grid_;
   std::function<void(int)> load_record_;
 };

@@ -24,6 +24,10 @@ TEST(ByteTexts, OnlyBlanksAreTrimmed) {
   EXPECT_EQ(trim_end(std::string_view{"abc\0 ", 5}), (std::string_view{"abc\0", 4}));
   EXPECT_EQ(trim_end("   "), "");
   EXPECT_EQ(trim_end(""), "");
+  EXPECT_EQ(trim_both("  a b  "), "a b");
+  EXPECT_EQ(trim_both("\ta "), "\ta");
+  EXPECT_EQ(trim_both("   "), "");
+  EXPECT_EQ(trim_both(""), "");
 }
 
 TEST(ByteTexts, ATextIsCutOrFilledToItsWidth) {

@@ -190,6 +190,18 @@ TEST_F(ChoiceListTest, ListsThatAreToldToFindEntriesByTyping) {
   EXPECT_EQ(found, 1);
 }
 
+TEST_F(ChoiceListTest, BareNumbersAreReadByTheirWholeText) {
+  list.fill(bare_numbers(0, 12));
+  EXPECT_EQ(list.count(), 13);
+  EXPECT_EQ(list.itemText(12), QStringLiteral("12"));
+  EXPECT_EQ(list.whole_number(), 0) << "nothing is shown yet";
+  list.show_text(QStringLiteral("12"));
+  EXPECT_EQ(list.whole_number(), 12);
+  EXPECT_EQ(list.number(), 0) << "there is no point to read it by";
+  list.show_text(QStringLiteral("255"));
+  EXPECT_EQ(list.whole_number(), 255) << "also one that is none of the entries";
+}
+
 TEST_F(ChoiceListTest, TabLeavesIt) {
   tab_to(list);
   press(Qt::Key_Tab);

@@ -257,6 +257,23 @@ TEST_F(TableFrameTest, ATypedNumberLoadsItsRecordAndBringsItsRowToTheTop) {
   EXPECT_EQ(grid.rowAt(0) + 1, 42);
 }
 
+TEST_F(RecordGridTest, AListThatCannotBeTypedIntoNamesRecordsToo) {
+  auto& numbers = screen->put(new ChoiceList{QStringLiteral("Cmb_Rule"), screen});
+  Rows loaded;
+  TableFrame table{numbers, 10, grid, [&loaded](int number) { loaded.push_back(number); }};
+  numbers.fill(bare_numbers(1, 10));
+  let_screens_settle();
+  table.go_to(3);
+  EXPECT_EQ(numbers.text(), QStringLiteral("3"));
+  pick(numbers, 6);
+  EXPECT_EQ(loaded, (Rows{3, 7}));
+  EXPECT_EQ(marked_row(), 7);
+  EXPECT_EQ(grid.rowAt(0) + 1, 7) << "its row comes to the top";
+  EXPECT_EQ(table.following_number(7), 9);
+  EXPECT_EQ(table.following_number(8), 9);
+  EXPECT_EQ(table.following_number(9), 10);
+}
+
 class FollowingNumber : public ScreenTest, public ::testing::WithParamInterface<int> {};
 
 TEST_P(FollowingNumber, NeverArrivesAtTheLastRecordByItself) {
