@@ -10,6 +10,10 @@
 #include "core/text.h"
 #include "editors/program/frm_department_program.h"
 #include "editors/program/frm_ns_menu_setting.h"
+#include "editors/program/frm_dept_group_setting.h"
+#include "editors/program/frm_fc_rating_setting.h"
+#include "editors/program/frm_instore_barcode_setting.h"
+#include "editors/program/frm_permission_program.h"
 #include "editors/program/frm_set_vat_rate.h"
 #include "editors/setting/frm_clerk_menu_setup.h"
 #include "editors/setting/frm_ej_setup.h"
@@ -84,6 +88,10 @@ void register_screens() {
   register_one<FrmHospitalitySetup>("FrmHospitalitySetup");
   register_one<FrmClerkMenuSetup>("FrmClerkMenuSetup");
   register_one<FrmSetLogo>("FrmSetLogo");
+  register_one<FrmDeptGroupSetting>("FrmDeptGroupSetting");
+  register_one<FrmInstoreBarcodeSetting>("FrmInstoreBarcodeSetting");
+  register_one<FrmFCRatingSetting>("FrmFCRatingSetting");
+  register_one<FrmPermissionProgram>("FrmPermissionProgram");
 }
 
 void Main(Stage& stage, const QString& application_folder, const QString& command_line) {
