@@ -118,11 +118,30 @@ RecordGrid::RecordGrid(const QString& name, QWidget* parent) : QTableView{parent
 }
 
 void RecordGrid::fit_columns(int stretched) {
-  resizeColumnsToContents();
   for (int column = 0; column < model_.columnCount(); ++column) {
-    const bool takes_rest = column == stretched;
-    horizontalHeader()->setSectionResizeMode(column, takes_rest ? QHeaderView::Stretch : QHeaderView::Interactive);
+    horizontalHeader()->setSectionResizeMode(column, QHeaderView::Interactive);
   }
+  resizeColumnsToContents();
+  stretched_ = stretched;
+  stretched_needs_ = horizontalHeader()->sectionSize(stretched);
+  give_rest();
+}
+
+void RecordGrid::give_rest() {
+  if (stretched_ < 0) return;
+  QHeaderView& header = *horizontalHeader();
+  int left = viewport()->width();
+  for (int column = 0; column < header.count(); ++column) {
+    if (column != stretched_) left -= header.sectionSize(column);
+  }
+  const bool has_room = left >= stretched_needs_;
+  header.setSectionResizeMode(stretched_, has_room ? QHeaderView::Stretch : QHeaderView::Interactive);
+  if (!has_room) header.resizeSection(stretched_, stretched_needs_);
+}
+
+void RecordGrid::resizeEvent(QResizeEvent* event) {
+  QTableView::resizeEvent(event);
+  give_rest();
 }
 
 void RecordGrid::mark(int row) {

@@ -51,7 +51,8 @@ class RecordGrid : public QTableView {
 
   [[nodiscard]] RecordModel& cells() { return model_; }
 
-  /// Sets the columns' widths after their texts; `stretched` takes what is left.
+  /// Sets the columns' widths after their texts; `stretched` takes what is left. In a window without room for its own
+  /// texts it keeps their width, and the grid scrolls.
   void fit_columns(int stretched);
 
   /// Marks the row of the record on screen, 1 for the first.
@@ -65,9 +66,14 @@ class RecordGrid : public QTableView {
  protected:
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   void mousePressEvent(QMouseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
+  void give_rest();
+
   RecordModel model_;
+  int stretched_ = -1;
+  int stretched_needs_ = 0;
   std::function<void(int)> select_;
   bool marking_ = false;
   bool press_selected_ = false;

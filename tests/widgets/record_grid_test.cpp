@@ -207,6 +207,24 @@ TEST_F(RecordGridTest, ColumnsTakeTheWidthOfTheirTexts) {
   EXPECT_EQ(all, grid.viewport()->width()) << "the stretched column takes what is left";
 }
 
+TEST_F(RecordGridTest, TheStretchedColumnKeepsItsOwnWidthInANarrowWindow) {
+  const auto* header = grid.horizontalHeader();
+  grid.cells().set_cell(1, 1, QString{30, u'W'});
+  grid.cells().set_cell(1, 2, QString{30, u'W'});
+  grid.cells().refreshed();
+  grid.fit_columns(1);
+  let_screens_settle();
+  const int needs = grid.fontMetrics().horizontalAdvance(QString{30, u'W'});
+  ASSERT_GT(header->sectionSize(1), needs + 100) << "there is much room at first";
+  grid.setFixedWidth(needs + 200);
+  let_screens_settle();
+  EXPECT_GE(header->sectionSize(1), needs);
+  EXPECT_LT(header->sectionSize(1), needs + 60);
+  grid.setFixedWidth(3 * needs);
+  let_screens_settle();
+  EXPECT_EQ(header->sectionSize(0) + header->sectionSize(1) + header->sectionSize(2), grid.viewport()->width());
+}
+
 class TableFrameTest : public RecordGridTest {
  protected:
   TableFrameTest()
