@@ -133,10 +133,13 @@ void OptionScreenTest::check_every_choice(const QString& screen, const Lists& li
       start_session(model);
       reset_catalogue();
       if (filled) fill_catalogue();
-      lay_down(random_image(model, random));
+      PrgModeImage image = random_image(model, random);
+      prepare(image);
+      lay_down(image);
       const std::string file_before = image_file();
       open(screen);
       click("C_Salva");
+      behind_a_save();
       const std::string before = image_now();
       for (const ListInImage& each : lists) {
         ChoiceList& chosen = list(QString::fromLatin1(each.control));
@@ -155,7 +158,9 @@ void OptionScreenTest::check_every_choice(const QString& screen, const Lists& li
                 with_value(static_cast<std::uint8_t>(byte), row.bit, digit_of(chosen.itemText(position))));
           }
           check_image(expected, file_before, save);
+          behind_a_save();
         }
+        use_image(before);
         if (first_shown < 0) {
           chosen.show_nothing();
         } else {
@@ -176,6 +181,7 @@ void OptionScreenTest::check_saving_untouched(const QString& screen, const Lists
     reset_catalogue();
     if (round % 4 > 1) fill_catalogue();
     PrgModeImage image = random_image(model, random);
+    prepare(image);
     auto* bytes = reinterpret_cast<std::uint8_t*>(&image);
     for (const ListInImage& each : lists) {
       // Often a value that the list has, and digits where digits are stored.

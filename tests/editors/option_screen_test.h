@@ -2,6 +2,7 @@
 // What is asked of every screen of choice lists. A test writes its lists down once more, byte by byte and word by word,
 // and none of that comes from the program's own tables.
 
+#include <functional>
 #include <vector>
 
 #include <QString>
@@ -30,6 +31,11 @@ class OptionScreenTest : public ScreenTest {
  protected:
   using Lists = std::vector<ListInImage>;
   enum class Save { writes_the_file, changes_the_working_image_only };
+
+  /// For screens with other fields too: gives a random image what these need to be saved.
+  std::function<void(PrgModeImage&)> prepare = [](PrgModeImage&) {};
+  /// For tables of records, whose saves go on to the next one: brings the one with the lists back.
+  std::function<void()> behind_a_save = [] {};
 
   /// Without a catalogue each list has exactly its entries, and is seen on the models that have it.
   void check_entries(const QString& screen, const Lists& lists);
