@@ -8,12 +8,15 @@
 #include "core/files.h"
 #include "core/global.h"
 #include "core/text.h"
+#include "editors/program/frm_clerk_system_program.h"
 #include "editors/program/frm_department_program.h"
-#include "editors/program/frm_ns_menu_setting.h"
 #include "editors/program/frm_dept_group_setting.h"
 #include "editors/program/frm_fc_rating_setting.h"
 #include "editors/program/frm_instore_barcode_setting.h"
+#include "editors/program/frm_ns_menu_setting.h"
+#include "editors/program/frm_percentage_menu.h"
 #include "editors/program/frm_permission_program.h"
+#include "editors/program/frm_poramp_key_menu.h"
 #include "editors/program/frm_set_vat_rate.h"
 #include "editors/setting/frm_clerk_menu_setup.h"
 #include "editors/setting/frm_ej_setup.h"
@@ -22,6 +25,8 @@
 #include "editors/setting/frm_print_mode.h"
 #include "editors/setting/frm_report_setup.h"
 #include "editors/setting/frm_working_mode.h"
+#include "editors/program/frm_system_option.h"
+#include "editors/program/frm_tender_menu_setting.h"
 #include "image/side_files.h"
 #include "lang/language.h"
 #include "logo/frm_set_logo.h"
@@ -92,6 +97,11 @@ void register_screens() {
   register_one<FrmInstoreBarcodeSetting>("FrmInstoreBarcodeSetting");
   register_one<FrmFCRatingSetting>("FrmFCRatingSetting");
   register_one<FrmPermissionProgram>("FrmPermissionProgram");
+  register_one<FrmTenderMenuSetting>("FrmTenderMenuSetting");
+  register_one<FrmClerkSystemProgram>("FrmClerkSystemProgram");
+  register_one<FrmPercentageMenu>("FrmPercentageMenu");
+  register_one<FrmPORAMPKeyMenu>("FrmPORAMPKeyMenu");
+  register_one<FrmSystemOption>("FrmSystemOption");
 }
 
 void Main(Stage& stage, const QString& application_folder, const QString& command_line) {

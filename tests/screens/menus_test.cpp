@@ -230,13 +230,8 @@ const QStringList not_there_yet = {
     "FrmSetup.C_ExportCaption",
     "FrmProgramMode.C_PluProgram",
     "FrmProgramMode.C_PluPageProgram",
-    "FrmProgramMode.C_PercentageProgram",
-    "FrmProgramMode.C_PO_RA_M_P_Key_Program",
-    "FrmProgramMode.C_TenderProgram",
     "FrmProgramMode.C_ForeignCurrencyProgram",
     "FrmProgramMode.C_NSProgram",
-    "FrmProgramMode.C_ClerkSystemProgram",
-    "FrmProgramMode.C_SystemOption",
     "FrmProgramMode.C_PopUpPluList",
     "FrmProgramMode.C_Custom_Import",
 };

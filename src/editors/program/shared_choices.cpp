@@ -1,13 +1,12 @@
 #include "editors/program/shared_choices.h"
 
+#include "editors/option_list.h"
 #include "widgets/captions.h"
 
 namespace ecr {
 
 QStringList limit_choices() {
-  return {choice(0, Key::FRM_ALL_NO_LIMIT, "0. NO LIMIT"), choice(1, Key::FRM_ALL_1DIGITS, "1. (0 - 0.99)"),
-          choice(2, Key::FRM_ALL_2DIGITS, "2. (0 - 9.99)"), choice(3, Key::FRM_ALL_3DIGITS, "3. (0 - 99.99)"),
-          choice(4, Key::FRM_ALL_4DIGITS, "4. (0 - 999.99)")};
+  return entries_of(digit_limits);
 }
 
 QStringList tax_choices() {
