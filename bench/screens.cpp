@@ -175,6 +175,22 @@ void save_department(benchmark::State& state, Program& program) {
   if (PrgMode.Dept[0].Status1 == 0) state.SkipWithError("nothing was saved");
 }
 
+/// Saves one screen again and again; a table of records goes on to its next one each time.
+void save_screen(benchmark::State& state, Program& program, const QString& menu, const QString& button) {
+  Program::load(Global::model_z320);
+  program.stand_on(menu);
+  open_by(program, program.button(button));
+  auto* save = program.stage.top()->findChild<CommandButton*>(QStringLiteral("C_Salva"));
+  if (save == nullptr) {
+    state.SkipWithError("nothing can be saved here");
+    return;
+  }
+  for (auto _ : state) {
+    click(*save);
+    QCoreApplication::processEvents();
+  }
+}
+
 /// A call that moves nothing, beside the screens.
 void link_call_beside(benchmark::State& state, Program& program) {
   program.stand_on({});
@@ -215,6 +231,10 @@ void measure_all(Program& program) {
       measure(
           QStringLiteral("open by %1 of %2").arg(button, menu_name),
           [&program, menu_name, button](benchmark::State& state) { open_screen(state, program, menu_name, button); });
+      if (menu_name == QStringLiteral("FrmSetup")) continue;
+      measure(
+          QStringLiteral("save behind %1 of %2").arg(button, menu_name),
+          [&program, menu_name, button](benchmark::State& state) { save_screen(state, program, menu_name, button); });
     }
   }
   measure(QStringLiteral("link call"), [&](benchmark::State& state) { link_call_beside(state, program); });

@@ -1,3 +1,5 @@
+#include "editors/program/frm_ns_menu_setting.h"
+
 #include <gtest/gtest.h>
 
 #include "core/global.h"
@@ -51,6 +53,11 @@ TEST_F(FrmNSMenuSettingTest, TheTwoUpperBitsSurvive) {
   list("Cmb_EJInput").show_entry(1);
   click("C_Salva");
   EXPECT_EQ(image_file()[69], '\xD0');
+}
+
+TEST_F(FrmNSMenuSettingTest, FaultsWouldStandInTheLogBehindThesePrefixes) {
+  EXPECT_EQ(ns_menu_setting.load_prefix, "FrmNsMenuSetting form_load: ") << "not the spelling of the screen";
+  EXPECT_EQ(ns_menu_setting.save_prefix, "FrmNsMenuSetting Salva: ");
 }
 
 }  // namespace

@@ -1,3 +1,5 @@
+#include "editors/program/frm_poramp_key_menu.h"
+
 #include <gtest/gtest.h>
 
 #include "core/catalogue.h"
@@ -99,6 +101,11 @@ TEST_F(FrmPORAMPKeyMenuTest, TheBitsOfThePercentageKeysSurvive) {
   list("Cmb_PM2Sign").show_entry(1);
   click("C_Salva");
   EXPECT_EQ(image_file()[66], '\xCB');
+}
+
+TEST_F(FrmPORAMPKeyMenuTest, FaultsWouldStandInTheLogBehindThesePrefixes) {
+  EXPECT_EQ(poramp_key_menu.load_prefix, "FrmPORAMPKeyMenu form_load: ");
+  EXPECT_EQ(poramp_key_menu.save_prefix, "FrmPORAMPKeyMenu Salva: ");
 }
 
 }  // namespace
