@@ -19,7 +19,8 @@ namespace ecr {
 
 class OptionLists {
  public:
-  /// Makes the label and the list of each row, on a screen or on a tab of one. `rows` outlives this.
+  /// Makes the label and the list of each row on `parent`: the screen, or the frame or tab on which they are to lie.
+  /// `rows` outlives this.
   OptionLists(QWidget& parent, Captions& captions, std::span<const OptionRow> rows);
   /// The same for one record of a table: the controls are members `index` of their arrays, and the rows' offsets count
   /// from `record`, a place in the image.

@@ -121,28 +121,29 @@ FrmTenderMenuSetting::FrmTenderMenuSetting()
 }
 
 void FrmTenderMenuSetting::make_medium(int index) {
-  auto* name = new Field{member_name("E_Name", index), this};
-  QLabel* label = make_label(member_name("L_Nome", index), this, name);
+  const MediumCaption& caption = medium_captions[index];
+  QWidget* place = nullptr;
+  if (index < media_in_frames) {
+    auto* box = new QGroupBox{this};
+    box->setObjectName(member_name("F_Payment", index));
+    frame_.captions.add(*box, caption.key, caption.built_in);
+    frame_.body->addWidget(box);
+    place = box;
+  } else {
+    place = new QWidget;
+    Tab_Credit->addTab(place, screen_text(caption.built_in));
+  }
+
+  auto* name = new Field{member_name("E_Name", index), place};
+  QLabel* label = make_label(member_name("L_Nome", index), place, name);
   frame_.captions.add(*label, Key::FRM_TENDER_MENU_SETTING_L_NOME, "Name");
   name->on_entered([name] {
     name->show_text(trim_end(name->text()));
     name->selectAll();
   });
   name->on_change([name] { cut_name(*name); });
-  media_.push_back({label, name, OptionLists{*this, frame_.captions, rows, index, record_of(index)}});
-
-  const MediumCaption& caption = medium_captions[index];
-  if (index < media_in_frames) {
-    auto* box = new QGroupBox{this};
-    box->setObjectName(member_name("F_Payment", index));
-    frame_.captions.add(*box, caption.key, caption.built_in);
-    box->setLayout(strip(media_.back()));
-    frame_.body->addWidget(box);
-  } else {
-    auto* page = new QWidget{Tab_Credit};
-    page->setLayout(strip(media_.back()));
-    Tab_Credit->addTab(page, screen_text(caption.built_in));
-  }
+  media_.push_back({label, name, OptionLists{*place, frame_.captions, rows, index, record_of(index)}});
+  place->setLayout(strip(media_.back()));
 }
 
 QLayout* FrmTenderMenuSetting::strip(const Medium& medium) const {
