@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <utility>
 
+#include <QHBoxLayout>
+
 #include "core/codecs.h"
 #include "core/global.h"
 #include "core/register_text.h"
@@ -12,6 +14,7 @@
 #include "editors/program/number_texts.h"
 #include "editors/program/record_at.h"
 #include "image/prg_mode.h"
+#include "widgets/look.h"
 #include "widgets/screen_text.h"
 
 namespace ecr {
@@ -141,9 +144,19 @@ void FrmClerkSystemProgram::lay_out() {
   form.place(0, 0, QStringLiteral("L_ClerkNumber"), Key::FRM_CLERK_SYSTEM_PROGRAM_L_CLERK_NUMBER,
              "Clerk Number:", Cmb_ClerkNumber);
   form.place(1, 0, QStringLiteral("L_DeptName"), Key::FRM_CLERK_SYSTEM_PROGRAM_L_DEPT_NAME, "Clerk Name:", E_Name);
-  form.place(2, 0, QStringLiteral("L_Password"), Key::FRM_CLERK_SYSTEM_PROGRAM_L_PASSWORD, "Password:", E_Password);
-  form.note(2, 0, QStringLiteral("L_PswMax"), Key::FRM_CLERK_SYSTEM_PROGRAM_L_PSW_MAX, "(Max 999)");
   QGridLayout& grid = *form.layout();
+  // The note shares the field's place: a column of its own would leave the longest words no room in a narrow window.
+  QLabel* password = make_label(QStringLiteral("L_Password"), this, E_Password);
+  frame_.captions.add(*password, Key::FRM_CLERK_SYSTEM_PROGRAM_L_PASSWORD, "Password:");
+  QLabel* most = make_label(QStringLiteral("L_PswMax"), this);
+  make_hint(*most);
+  frame_.captions.add(*most, Key::FRM_CLERK_SYSTEM_PROGRAM_L_PSW_MAX, "(Max 999)");
+  auto* password_line = new QHBoxLayout;
+  password_line->setSpacing(8);
+  password_line->addWidget(E_Password, 1);
+  password_line->addWidget(most);
+  grid.addWidget(password, 2, 0);
+  grid.addLayout(password_line, 2, 1);
   // Clerk and mode at the left, what the clerk may do beside them. The one that a Z300 lacks stands last.
   const auto put = [&](int line, int column, std::string_view control) {
     grid.addWidget(rights_.label(control), line, column);
@@ -157,7 +170,7 @@ void FrmClerkSystemProgram::lay_out() {
   put(0, 6, "Cmb_NegativeDeptPlu");
   put(1, 6, "Cmb_Coupon");
   put(2, 6, "Cmb_ExtraInvoice");
-  grid.setColumnMinimumWidth(5, 8);
+  for (const int column : {2, 5}) grid.setColumnMinimumWidth(column, 4);
   for (const int column : {1, 4, 7}) grid.setColumnStretch(column, 3);
   E_Password->setAlignment(Qt::AlignRight);
   frame_.body->addLayout(&grid);
