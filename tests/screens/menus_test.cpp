@@ -230,8 +230,6 @@ const QStringList not_there_yet = {
     "FrmSetup.C_ExportCaption",
     "FrmProgramMode.C_PluProgram",
     "FrmProgramMode.C_PluPageProgram",
-    "FrmProgramMode.C_ForeignCurrencyProgram",
-    "FrmProgramMode.C_NSProgram",
     "FrmProgramMode.C_PopUpPluList",
     "FrmProgramMode.C_Custom_Import",
 };
