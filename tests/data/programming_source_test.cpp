@@ -10,7 +10,6 @@
 #include "image/layout.h"
 #include "image/prg_mode.h"
 #include "image/prg_plu.h"
-#include "make_programming/names.h"
 #include "make_programming/programming.h"
 #include "support/installation.h"
 #include "support/random.h"
@@ -166,20 +165,6 @@ TEST(ProgrammingSource, NamesBitsAndKeys) {
   EXPECT_EQ(field("AdvSet8[5] = fc+take-out", "AdvSet8", 5), std::string("\x00\x04\x00\x08\x00\x00\x00\x00", 8));
   EXPECT_EQ(field("KeyLayout[0] = \"DEPT 20\", 5, \"#NS, NEXT\"", "KeyLayout", 0), "\x65");
   EXPECT_EQ(field("KeyLayout[0] = \"DEPT 20\", 5, \"#NS, NEXT\"", "KeyLayout", 2), "\x15");
-}
-
-TEST(ProgrammingSource, KnowsEveryKeyByOneName) {
-  std::size_t named = 0;
-  for (int code = 0; code <= 255; ++code) {
-    const std::string name = key_name(static_cast<std::uint8_t>(code));
-    EXPECT_EQ(name.empty(), code < 20 || code == 39 || (code > 151 && code < 255)) << code;
-    if (name.empty()) continue;
-    ++named;
-    EXPECT_EQ(key_code(name), code);
-  }
-  EXPECT_EQ(named, 132U);
-  EXPECT_FALSE(key_code("").has_value());
-  EXPECT_FALSE(key_code("PO").has_value());
 }
 
 TEST(ProgrammingSource, WritesARecordOrManyInALine) {

@@ -1,40 +1,10 @@
 #include "make_programming/names.h"
 
 #include <algorithm>
-#include <array>
-#include <cstddef>
+#include <iterator>
 
 namespace ecr {
 namespace {
-
-struct KeyName {
-  std::uint8_t code;
-  std::string_view name;
-};
-
-// clang-format off
-constexpr KeyName single_keys[] = {
-    {20, "DEPT SHIFT, CODE"}, {21, "#NS, NEXT"}, {22, "CLERK, ESC"}, {23, "RECEIPT ON/OFF"}, {24, "SUBTOTAL"},
-    {25, "CHECK"}, {26, "CHARGE"}, {27, "CREDIT1"}, {28, "CREDIT2"}, {29, "CREDIT3"}, {30, "CREDIT4"},
-    {31, "CREDIT5"}, {32, "CREDIT6"}, {33, "FC"}, {34, "%1"}, {35, "%2"}, {36, "+/-1"}, {37, "+/-2"}, {38, "RA"},
-    {40, "EC"}, {41, "VOID"}, {42, "FULL VOID"}, {43, "REFUND"}, {44, "PLU CODE"}, {45, "PLU PRICE"},
-    {46, "ADD PLU"}, {47, "PLU INQUIRY"}, {48, "HOLD"}, {49, "PAYMENT TRANSFER"}, {50, "TAKE OUT"}, {51, "ABR"},
-    {52, "CHAIN FUNC 1"}, {53, "CHAIN FUNC 2"}, {54, "CHAIN FUNC 3"}, {55, "CHAIN FUNC 4"}, {56, "CHAIN FUNC 5"},
-    {57, "POP LIST 1"}, {58, "POP LIST 2"}, {59, "POP LIST 3"}, {60, "POP LIST 4"}, {61, "POP LIST 5"},
-    {62, "TABLE#NEW BAL"}, {63, "GUEST"}, {64, "REVIEW"}, {65, "TABLE ADD"}, {66, "TABLE SEPARATE"},
-    {67, "TABLE CHANGE"}, {68, "PROFORMA"}, {69, "TRAY/TRAY TL"}, {70, "EXTRA INVOICE"}, {71, "=PAYMENT"},
-    {72, "PRICE1"}, {73, "PRICE2"}, {74, "PLU PAGE 1"}, {75, "PLU PAGE 2"}, {76, "PLU PAGE 3"}, {77, "PLU LIST 1"},
-    {78, "PLU LIST 2"}, {79, "PLU LIST 3"}, {80, "PLU LIST 4"}, {81, "PLU LIST 5"}, {255, "NO OPERATION"},
-};
-// clang-format on
-
-// Families of keys: code = before_first + number.
-struct KeyFamily {
-  std::string_view name;
-  int before_first;
-  int members;
-};
-constexpr KeyFamily key_families[] = {{"DEPT ", 81, 20}, {"PLU ", 101, 50}};
 
 constexpr std::string_view price_types[] = {"open", "normal", "preset"};
 constexpr std::string_view item_types[] = {"open", "normal", "preset", "unused"};
@@ -208,25 +178,6 @@ constexpr BitName all_bits[] = {
 // clang-format on
 
 }  // namespace
-
-std::string key_name(std::uint8_t code) {
-  for (const KeyFamily& family : key_families) {
-    const int number = code - family.before_first;
-    if (number >= 1 && number <= family.members) return std::string{family.name} + std::to_string(number);
-  }
-  for (const KeyName& key : single_keys) {
-    if (key.code == code) return std::string{key.name};
-  }
-  return {};
-}
-
-std::optional<std::uint8_t> key_code(std::string_view name) {
-  if (name.empty()) return std::nullopt;
-  for (int code = 0; code <= 255; ++code) {
-    if (key_name(static_cast<std::uint8_t>(code)) == name) return static_cast<std::uint8_t>(code);
-  }
-  return std::nullopt;
-}
 
 std::span<const BitName> bit_names(std::string_view field) {
   const auto belongs = [&](const BitName& bit) { return bit.field == field; };

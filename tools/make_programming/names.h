@@ -1,17 +1,10 @@
 #pragma once
-// The words that a programming source uses for key codes and for bits.
+// The words that a programming source uses for bits.
 
-#include <cstdint>
-#include <optional>
 #include <span>
-#include <string>
 #include <string_view>
 
 namespace ecr {
-
-/// The function that a key code stands for; empty for the codes without a name.
-[[nodiscard]] std::string key_name(std::uint8_t code);
-[[nodiscard]] std::optional<std::uint8_t> key_code(std::string_view name);
 
 /// One bit, or a small number in several bits, of a field whose bytes are flags.
 struct BitName {

@@ -11,6 +11,7 @@
 #include "core/decimal.h"
 #include "core/register_text.h"
 #include "core/text.h"
+#include "keyboard/key_codes.h"
 #include "make_programming/names.h"
 
 namespace ecr {
@@ -359,8 +360,8 @@ std::string written_value(const FieldPlace& field, ConstBytes bytes) {
   if (field.kind == FieldKind::opaque) return written_raw(bytes);
   if (!bit_names(field.name).empty()) return written_flags(field, bytes);
   if (field.name == key_field) {
-    const std::string name = key_name(bytes[0]);
-    if (!name.empty()) return "\"" + name + "\"";
+    const std::string_view name = key_name(bytes[0]);
+    if (!name.empty()) return "\"" + std::string{name} + "\"";
   }
   return written_number(field, bytes);
 }
