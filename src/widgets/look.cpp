@@ -154,6 +154,9 @@ QColor text_red() {
 QColor text_plain() {
   return colours->text;
 }
+QColor line_colour() {
+  return colours->line;
+}
 
 void make_heading(QLabel& label) {
   QFont font = label.font();

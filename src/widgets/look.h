@@ -23,6 +23,9 @@ void apply_look(QApplication& application, Scheme scheme);
 [[nodiscard]] QColor text_red();
 [[nodiscard]] QColor text_plain();
 
+/// The colour of thin lines around and between things.
+[[nodiscard]] QColor line_colour();
+
 // The labels have no rule in the style sheet: matching it costs each of them more than all else it does.
 void make_heading(QLabel& label);
 void make_hint(QLabel& label);

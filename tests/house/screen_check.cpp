@@ -146,6 +146,31 @@ bool is_reached_with_its_set(const QRadioButton& option, const QSet<const QWidge
          std::any_of(siblings.begin(), siblings.end(), [&](const QRadioButton* one) { return reached.contains(one); });
 }
 
+/// Adds what the arrow keys reach from controls of the same kind that lie beside `missed` and are reached: a group of
+/// keys is one stop of Tab.
+void add_reached_by_arrows(const QWidget& missed, QSet<const QWidget*>& reached) {
+  const auto is_one_of_them = [&](const QWidget* widget) {
+    return widget != nullptr && widget->parentWidget() == missed.parentWidget() &&
+           widget->metaObject() == missed.metaObject();
+  };
+  std::vector<QWidget*> to_go_on_from;
+  for (QWidget* beside : missed.parentWidget()->findChildren<QWidget*>(QString{}, Qt::FindDirectChildrenOnly)) {
+    if (is_one_of_them(beside) && reached.contains(beside)) to_go_on_from.push_back(beside);
+  }
+  while (!to_go_on_from.empty()) {
+    QWidget* from = to_go_on_from.back();
+    to_go_on_from.pop_back();
+    for (const int key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down}) {
+      from->setFocus(Qt::OtherFocusReason);
+      press(key);
+      QWidget* now = QApplication::focusWidget();
+      if (!is_one_of_them(now) || reached.contains(now)) continue;
+      reached.insert(now);
+      to_go_on_from.push_back(now);
+    }
+  }
+}
+
 }  // namespace
 
 QStringList complaints_about_names(const QWidget& screen) {
@@ -258,6 +283,8 @@ QStringList complaints_about_tab(QWidget& screen) {
     if (control->focusProxy() != nullptr && reached.contains(control->focusProxy())) continue;
     const auto* option = qobject_cast<const QRadioButton*>(control);
     if (option != nullptr && is_reached_with_its_set(*option, reached)) continue;
+    add_reached_by_arrows(*control, reached);
+    if (reached.contains(control)) continue;
     complaints.append(called(*control));
   }
   if (before != nullptr) before->setFocus(Qt::OtherFocusReason);

@@ -22,7 +22,7 @@ namespace ecr::test {
 /// Controls that take the focus and tell nobody what they are.
 [[nodiscard]] QStringList complaints_about_silent_controls(const QWidget& screen);
 
-/// Controls that Tab never reaches. The screen must be on show; the focus ends where it was.
+/// Controls that Tab never reaches, nor the arrow keys from one of their kind beside them that it does reach. The screen must be on show; the focus ends where it was.
 [[nodiscard]] QStringList complaints_about_tab(QWidget& screen);
 
 }  // namespace ecr::test

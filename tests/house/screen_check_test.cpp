@@ -6,6 +6,7 @@
 
 #include <QComboBox>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QRadioButton>
 #include <QTabWidget>
 
@@ -164,6 +165,38 @@ TEST_F(ScreenCheckTest, OneOptionOfASetIsEnough) {
   one.setFocusPolicy(Qt::ClickFocus);
   two.setFocusPolicy(Qt::ClickFocus);
   EXPECT_EQ(complaints_about_tab(*screen), QStringList({"Opt(0)", "Opt(1)"}));
+}
+
+/// A key of a group: Right leads on to the next one.
+class GroupKey : public QWidget {
+ public:
+  GroupKey(const char* name, QWidget* next) : next_{next} {
+    setObjectName(QString::fromLatin1(name));
+    setAccessibleName(objectName());
+    setFocusPolicy(Qt::ClickFocus);
+    setMinimumSize(20, 20);
+  }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() == Qt::Key_Right && next_ != nullptr) next_->setFocus();
+  }
+
+ private:
+  QWidget* next_;
+};
+
+TEST_F(ScreenCheckTest, WhatTheArrowKeysReachFromOneOfItsKindCounts) {
+  auto& last = screen->put(new GroupKey{"L_Key(3)", nullptr});
+  auto& middle = screen->put(new GroupKey{"L_Key(2)", &last});
+  auto& first = screen->put(new GroupKey{"L_Key(1)", &middle});
+  let_screens_settle();
+  EXPECT_EQ(complaints_about_tab(*screen).size(), 3);
+  first.setFocusPolicy(Qt::StrongFocus);
+  EXPECT_EQ(complaints_about_tab(*screen), QStringList{});
+  first.setFocusPolicy(Qt::ClickFocus);
+  middle.setFocusPolicy(Qt::StrongFocus);
+  EXPECT_EQ(complaints_about_tab(*screen), QStringList{"L_Key(1)"}) << "no arrow leads back to it";
 }
 
 }  // namespace
