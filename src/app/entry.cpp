@@ -28,6 +28,7 @@
 #include "editors/program/frm_system_option.h"
 #include "editors/program/frm_tender_menu_setting.h"
 #include "image/side_files.h"
+#include "keyboard/frm_advanced_setting.h"
 #include "lang/language.h"
 #include "logo/frm_set_logo.h"
 #include "screens/frm_pres.h"
@@ -102,6 +103,7 @@ void register_screens() {
   register_one<FrmPercentageMenu>("FrmPercentageMenu");
   register_one<FrmPORAMPKeyMenu>("FrmPORAMPKeyMenu");
   register_one<FrmSystemOption>("FrmSystemOption");
+  register_one<FrmAdvancedSetting>("FrmAdvancedSetting");
 }
 
 void Main(Stage& stage, const QString& application_folder, const QString& command_line) {

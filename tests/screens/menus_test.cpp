@@ -226,7 +226,6 @@ TEST_F(MenusTest, MenusHoldNoDataOfTheProgramming) {
 const QStringList not_there_yet = {
     "FrmSetup.C_MessageSetup",
     "FrmSetup.C_Report",
-    "FrmSetup.C_AdvancedSetting",
     "FrmSetup.C_ExportCaption",
     "FrmProgramMode.C_PluProgram",
     "FrmProgramMode.C_PluPageProgram",
