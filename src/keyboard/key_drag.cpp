@@ -33,6 +33,8 @@ QPixmap picture_of(const QWidget& from, const QString& name) {
 
 }  // namespace
 
+std::function<void(QDrag&)> carry_drag;
+
 void drag_function(QWidget& from, std::uint8_t code) {
   auto* data = new QMimeData;
   data->setData(function_kind, QByteArray(1, static_cast<char>(code)));
@@ -41,14 +43,20 @@ void drag_function(QWidget& from, std::uint8_t code) {
   const QPixmap picture = picture_of(from, screen_text(key_name(code)));
   drag->setPixmap(picture);
   drag->setHotSpot(QRect{{}, cap_size}.center());
-  drag->exec(Qt::CopyAction);
+  if (carry_drag) {
+    carry_drag(*drag);
+    drag->deleteLater();
+  } else {
+    drag->exec(Qt::CopyAction);
+  }
 }
 
 std::optional<std::uint8_t> dragged_function(const QDropEvent& event) {
-  if (event.source() == nullptr) return std::nullopt;
   const QByteArray data = event.mimeData()->data(function_kind);
   if (data.size() != 1) return std::nullopt;
-  return static_cast<std::uint8_t>(data.front());
+  const auto code = static_cast<std::uint8_t>(data.front());
+  if (key_name(code).empty()) return std::nullopt;
+  return code;
 }
 
 }  // namespace ecr

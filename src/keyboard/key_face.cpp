@@ -127,17 +127,19 @@ void draw_key(QPainter& painter, const QRect& cap, const QPalette& palette, cons
   const QColor ground = palette.color(QPalette::Window);
   const QColor ink = palette.color(QPalette::WindowText);
   const QColor accent = palette.color(QPalette::Highlight);
+  // On a dark ground what is raised is lighter, on a light one what lies low is darker.
+  const bool is_dark = ground.lightness() < 128;
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   const QRectF whole = QRectF{cap}.adjusted(0.5, 0.5, -0.5, -0.5);
   if (face.fixed) {
     painter.setPen(between(ground, ink, 0.2));
-    painter.setBrush(between(ground, ink, 0.13));
+    painter.setBrush(between(ground, ink, is_dark ? 0.03 : 0.13));
     painter.drawRoundedRect(whole, corner, corner);
     painter.restore();
     return;
   }
-  const QColor button = palette.color(QPalette::Button);
+  const QColor button = between(palette.color(QPalette::Button), ink, is_dark ? 0.09 : 0);
   QColor top = face.hovered ? between(button, accent, 0.12) : button;
   if (face.chosen) top = between(top, accent, 0.24);
   const QColor side = face.chosen ? between(ground, accent, 0.75) : between(ground, ink, 0.3);

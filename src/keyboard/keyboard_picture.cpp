@@ -14,8 +14,8 @@ namespace {
 constexpr int rim = 9;    // of the plate
 constexpr int gap = 8;    // between two groups of keys
 constexpr int space = 4;  // between two keys
-constexpr QSize smallest_key{49, 38};
-constexpr QSize largest_key{92, 66};
+constexpr QSize smallest_key{50, 44};
+constexpr QSize largest_key{104, 80};
 
 /// How far a stroke leads: columns to the right and rows down.
 struct Step {
