@@ -12,6 +12,8 @@
 #include <QStyleOption>
 #include <qdrawutil.h>
 
+#include "widgets/box_style.h"
+
 namespace ecr {
 namespace {
 
@@ -137,7 +139,7 @@ Scheme wanted_scheme() {
 
 void apply_look(QApplication& application, Scheme scheme) {
   colours = scheme == Scheme::dark ? &dark : &light;
-  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QApplication::setStyle(new BoxStyle{QStyleFactory::create(QStringLiteral("Fusion"))});
   QApplication::setPalette(palette_of(*colours));
   QFont font = QApplication::font();
   font.setPointSizeF(10);

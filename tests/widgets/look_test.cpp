@@ -141,6 +141,31 @@ TEST_P(LookTest, TheTabInFrontAloneIsUnderlined) {
   }
 }
 
+TEST_P(LookTest, BoxesAndOptionsAreSeenAndShowHowTheyStand) {
+  const QPalette palette = QApplication::palette();
+  for (const auto element : {QStyle::PE_IndicatorCheckBox, QStyle::PE_IndicatorRadioButton}) {
+    const auto drawn = [&](QStyle::State state) {
+      QImage image{16, 16, QImage::Format_RGB32};
+      image.fill(palette.color(QPalette::Window));
+      QPainter painter{&image};
+      QStyleOptionButton box;
+      box.rect = image.rect();
+      box.palette = palette;
+      box.state = state;
+      QApplication::style()->drawPrimitive(element, &box, &painter, nullptr);
+      return image;
+    };
+    const QImage off = drawn(QStyle::State_Enabled | QStyle::State_Off);
+    const QImage on = drawn(QStyle::State_Enabled | QStyle::State_On);
+    EXPECT_GE(contrast(off.pixelColor(0, 8), palette.color(QPalette::Window)), 3) << "its edge";
+    EXPECT_EQ(on.pixelColor(8, 3), palette.color(QPalette::Highlight));
+    EXPECT_EQ(off.pixelColor(8, 3), palette.color(QPalette::Base));
+    EXPECT_NE(drawn(QStyle::State_Off), off) << "disabled";
+    EXPECT_NE(drawn(QStyle::State_On), drawn(QStyle::State_Off));
+    EXPECT_NE(drawn(QStyle::State_Enabled | QStyle::State_Off | QStyle::State_HasFocus), off);
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(InBothSchemes, LookTest, ::testing::Values(Scheme::light, Scheme::dark));
 
 }  // namespace
