@@ -118,6 +118,10 @@ QSize smallest_cap(const QString& text) {
       text_margins);
 }
 
+QColor fixed_print(const QPalette& palette) {
+  return between(palette.color(QPalette::Window), palette.color(QPalette::WindowText), 0.76);
+}
+
 QColor between(const QColor& from, const QColor& to, double share) {
   const auto mixed = [share](int a, int b) { return static_cast<int>(std::lround(a + (b - a) * share)); };
   return {mixed(from.red(), to.red()), mixed(from.green(), to.green()), mixed(from.blue(), to.blue())};
@@ -139,10 +143,14 @@ void draw_key(QPainter& painter, const QRect& cap, const QPalette& palette, cons
     painter.restore();
     return;
   }
-  const QColor button = between(palette.color(QPalette::Button), ink, is_dark ? 0.09 : 0);
-  QColor top = face.hovered ? between(button, accent, 0.12) : button;
-  if (face.chosen) top = between(top, accent, 0.24);
-  const QColor side = face.chosen ? between(ground, accent, 0.75) : between(ground, ink, 0.3);
+  const QColor button = palette.color(QPalette::Button);
+  QColor top = face.hovered ? between(button, accent, is_dark ? 0.06 : 0.12) : button;
+  QColor side = between(ground, ink, 0.3);
+  if (face.chosen) {
+    // Red letters have to be read on it too.
+    top = is_dark ? between(ground, accent, 0.13) : between(button, accent, 0.22);
+    side = accent;
+  }
   painter.setPen(Qt::NoPen);
   painter.setBrush(side);
   painter.drawRoundedRect(whole, corner, corner);

@@ -41,6 +41,9 @@ struct FittedText {
 void draw_key(QPainter& painter, const QRect& cap, const QPalette& palette, const KeyFace& face);
 void draw_key_text(QPainter& painter, const QRect& cap, const FittedText& text, const QColor& colour, bool pressed);
 
+/// The colour of what is printed on a fixed key.
+[[nodiscard]] QColor fixed_print(const QPalette& palette);
+
 /// A colour between two, `share` (0 to 1) of the way from the first to the second.
 [[nodiscard]] QColor between(const QColor& from, const QColor& to, double share);
 

@@ -12,6 +12,7 @@ namespace ecr {
 namespace {
 
 constexpr int rim = 9;    // of the plate
+constexpr int free = 8;   // above and below it
 constexpr int gap = 8;    // between two groups of keys
 constexpr int space = 4;  // between two keys
 constexpr QSize smallest_key{50, 44};
@@ -68,11 +69,11 @@ QSize KeyboardPicture::size_for(QSize cap) const {
 }
 
 QSize KeyboardPicture::sizeHint() const {
-  return size_for(smallest_key + QSize{8, 4});
+  return size_for(smallest_key + QSize{8, 4}) + QSize{0, 2 * free};
 }
 
 QSize KeyboardPicture::minimumSizeHint() const {
-  return size_for(smallest_key);
+  return size_for(smallest_key) + QSize{0, 2 * free};
 }
 
 QRect KeyboardPicture::plate() const {
@@ -95,7 +96,7 @@ QRect KeyboardPicture::place_of(const KeyCapPlace& cap) const {
 }
 
 void KeyboardPicture::resizeEvent(QResizeEvent*) {
-  const QSize inside = size() - size_for({0, 0});
+  const QSize inside = size() - size_for({0, 0}) - QSize{0, 2 * free};
   cap_ = QSize{inside.width() / form_.columns, inside.height() / form_.rows}.boundedTo(largest_key);
   for (const KeyCapPlace& place : form_.caps) {
     if (place.key != 0) cap(place.key).setGeometry(place_of(place));
@@ -115,7 +116,7 @@ void KeyboardPicture::paintEvent(QPaintEvent*) {
     const QRect where = place_of(place);
     draw_key(painter, where, palette(), KeyFace{.fixed = true});
     const QString print = QString::fromLatin1(place.print.data(), static_cast<qsizetype>(place.print.size()));
-    draw_key_text(painter, where, fit_text(print, text_place(where).size()), between(ground, ink, 0.62), false);
+    draw_key_text(painter, where, fit_text(print, text_place(where).size()), fixed_print(palette()), false);
   }
 }
 

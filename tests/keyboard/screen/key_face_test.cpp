@@ -1,15 +1,18 @@
 #include "keyboard/key_face.h"
 
 #include <algorithm>
+#include <cmath>
 #include <gtest/gtest.h>
 #include <string_view>
 
+#include <QApplication>
 #include <QFontMetricsF>
 #include <QImage>
 #include <QPainter>
 
 #include "keyboard/key_codes.h"
 #include "support_qt/printing.h"
+#include "widgets/look.h"
 
 namespace ecr::test {
 namespace {
@@ -77,6 +80,32 @@ TEST(KeyFace, AChosenKeyAndAFixedOneLookLikeNoOther) {
   EXPECT_NE(drawn({.pressed = true}), plain);
   EXPECT_NE(drawn({.focused = true}), plain);
   EXPECT_EQ(drawn({}), plain);
+}
+
+double luminance(const QColor& colour) {
+  const auto linear = [](double c) { return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
+  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+}
+
+TEST(KeyFace, LettersOfEachColourCanBeReadOnEachFace) {
+  auto& application = *static_cast<QApplication*>(QCoreApplication::instance());
+  for (const Scheme scheme : {Scheme::light, Scheme::dark}) {
+    apply_look(application, scheme);
+    const auto contrast = [](const KeyFace& face, const QColor& ink) {
+      QImage image{40, 40, QImage::Format_RGB32};
+      QPainter painter{&image};
+      draw_key(painter, image.rect(), QApplication::palette(), face);
+      const double ground = luminance(image.pixelColor(20, 20));
+      const double text = luminance(ink);
+      return (std::max(ground, text) + 0.05) / (std::min(ground, text) + 0.05);
+    };
+    for (const KeyFace& face : {KeyFace{}, KeyFace{.chosen = true}, KeyFace{.chosen = true, .hovered = true}}) {
+      EXPECT_GE(contrast(face, text_plain()), 4.5);
+      EXPECT_GE(contrast(face, text_red()), 4.4);
+    }
+    EXPECT_GE(contrast({.fixed = true}, fixed_print(QApplication::palette())), 4.5);
+  }
+  apply_look(application, Scheme::light);
 }
 
 }  // namespace
