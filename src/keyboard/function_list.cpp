@@ -27,6 +27,8 @@ void FunctionList::fill_functions() {
 void FunctionList::showPopup() {
   pressed_ = -1;
   view()->viewport()->installEventFilter(this);
+  // The style sheet lets this long list drop down below its box, where others lie over it and scroll by themselves.
+  view()->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   ChoiceList::showPopup();
 }
 

@@ -83,6 +83,7 @@ QLineEdit:disabled, QComboBox:disabled { color: @muted; background: @window; }
 QComboBox::drop-down { border: none; width: 22px; }
 QComboBox::down-arrow { width: 0; height: 0; border-left: 4px solid @base; border-right: 4px solid @base;
   border-top: 5px solid @muted; margin-right: 8px; }
+QComboBox#Cmb_KeyList { combobox-popup: 0; }
 QComboBox QAbstractItemView { background: @base; border: 1px solid @line; selection-background-color: @accent;
   selection-color: @onaccent; outline: none; }
 QComboBox QLineEdit, QComboBox QLineEdit:focus { border: none; padding: 0; background: transparent; }
