@@ -10,8 +10,6 @@
 #include <QFontMetricsF>
 #include <QPainter>
 
-#include "widgets/look.h"
-
 namespace ecr {
 namespace {
 

@@ -132,11 +132,16 @@ TEST_F(AdvancedSettingBoxes, EachFunctionOfEachPopUpListFlipsItsBitAndNoOther) {
   for (int list = 0; list < 5; ++list) {
     go_to_pop_list(list);
     for (const OptionBox& row : pop_boxes()) {
-      if (row.control == "Chk_ReceiptOn_Off") continue;
       std::string expected = image_file();
       const std::size_t at = pop_at + static_cast<std::size_t>(list) * 8 + row.byte;
       expected[at] = static_cast<char>(expected[at] ^ (1 << row.bit));
-      click_box(box(row.control, list));
+      QAbstractButton& one = box(row.control, list);
+      if (one.isEnabled()) {
+        click_box(one);
+      } else {
+        // Only the program can change it.
+        one.toggle();
+      }
       save();
       EXPECT_EQ(image_file() == expected, true) << row.control << " of list " << list;
     }
