@@ -3,8 +3,10 @@
 #include <algorithm>
 
 #include <QAbstractItemView>
+#include <QAbstractListModel>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QListView>
 
 #include "core/codecs.h"
 #include "core/decimal.h"
@@ -31,6 +33,27 @@ bool edits_the_number(const QKeyEvent& event) {
 int number_in(const QString& text) {
   return static_cast<int>(std::clamp<std::int64_t>(leading_number(page_bytes(text)), 0, 1'000'000));
 }
+
+/// The numbers from 1 on, made when they are asked for: a list of thousands is filled anew by each save.
+class Numbers : public QAbstractListModel {
+ public:
+  using QAbstractListModel::QAbstractListModel;
+
+  void fill(int last) {
+    beginResetModel();
+    last_ = last;
+    endResetModel();
+  }
+
+  [[nodiscard]] int rowCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : last_; }
+  [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override {
+    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::EditRole)) return {};
+    return QString::number(index.row() + 1);
+  }
+
+ private:
+  int last_ = 0;
+};
 
 }  // namespace
 
@@ -112,14 +135,20 @@ NumberList::NumberList(const QString& name, int last, QWidget* parent) : QComboB
   setInsertPolicy(QComboBox::NoInsert);
   setCompleter(nullptr);
   setMaxVisibleItems(16);
+  setModel(new Numbers{this});
+  // Its width is that of the last number; to look through all of them would cost time.
+  setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  setMinimumContentsLength(static_cast<int>(QString::number(last).size()));
+  if (auto* view = qobject_cast<QListView*>(this->view())) view->setUniformItemSizes(true);
   connect(this, &QComboBox::activated, this, [this] {
     if (click_ && number() > 0) click_(number());
   });
 }
 
 void NumberList::fill() {
-  clear();
-  addItems(bare_numbers(1, last_));
+  if (count() != last_) static_cast<Numbers*>(model())->fill(last_);
+  // As a list stands behind its filling.
+  show_number(1);
 }
 
 void NumberList::show_number(int number) {
@@ -154,7 +183,7 @@ void NumberList::focusInEvent(QFocusEvent* event) {
 void NumberList::typed() {
   if (number() > last_) setEditText(QString::number(last_));
   // The arrow keys go on from the number that was typed.
-  const int index = findText(currentText());
+  const int index = currentText() == QString::number(number()) ? number() - 1 : -1;
   if (index >= 0 && index != currentIndex()) {
     const int cursor = lineEdit()->cursorPosition();
     setCurrentIndex(index);

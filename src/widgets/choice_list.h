@@ -63,7 +63,7 @@ class NumberList : public QComboBox {
   /// `last` is the largest number; a larger one that is typed becomes it.
   NumberList(const QString& name, int last, QWidget* parent);
 
-  /// Empties the list and fills it with "1" to the last number.
+  /// Fills the list with "1" to the last number and shows the first.
   void fill();
   /// Shows a number as the program does: nothing is loaded by it.
   void show_number(int number);
