@@ -17,6 +17,9 @@
 #include "editors/program/frm_percentage_menu.h"
 #include "editors/program/frm_permission_program.h"
 #include "editors/program/frm_poramp_key_menu.h"
+#include "editors/program/frm_plu_page_program.h"
+#include "editors/program/frm_pop_up_plu_list.h"
+#include "editors/program/frm_prg_plu.h"
 #include "editors/program/frm_set_vat_rate.h"
 #include "editors/setting/frm_clerk_menu_setup.h"
 #include "editors/setting/frm_ej_setup.h"
@@ -104,6 +107,9 @@ void register_screens() {
   register_one<FrmPORAMPKeyMenu>("FrmPORAMPKeyMenu");
   register_one<FrmSystemOption>("FrmSystemOption");
   register_one<FrmAdvancedSetting>("FrmAdvancedSetting");
+  register_one<FrmPrgPlu>("FrmPrgPlu");
+  register_one<FrmPluPageProgram>("FrmPluPageProgram");
+  register_one<FrmPopUpPluList>("FrmPopUpPluList");
 }
 
 void Main(Stage& stage, const QString& application_folder, const QString& command_line) {

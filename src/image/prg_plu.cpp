@@ -1,12 +1,16 @@
 #include "image/prg_plu.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cstring>
 #include <string>
 #include <string_view>
+#include <system_error>
 
+#include "core/fault.h"
 #include "core/files.h"
 #include "core/global.h"
+#include "core/text.h"
 
 namespace ecr {
 namespace {
@@ -120,6 +124,18 @@ int Count_PluToSend(bool clear) {
     if (clear) flag = 0;
   }
   return flagged;
+}
+
+std::string link_dept_text(std::uint8_t byte) {
+  return hex_text(byte);
+}
+
+std::uint8_t link_dept_of(std::string_view text) {
+  text = text.substr(std::min(text.find_first_not_of(' '), text.size()));
+  unsigned number = 0;
+  const auto result = std::from_chars(text.data(), text.data() + text.size(), number, 16);
+  if (result.ec == std::errc::result_out_of_range || number > 255) throw FaultError{FaultCode::overflow};
+  return static_cast<std::uint8_t>(number);
 }
 
 void reset_prg_plu() noexcept {

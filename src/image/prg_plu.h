@@ -8,6 +8,8 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <string>
+#include <string_view>
 #include <type_traits>
 
 #include "image/fields.h"
@@ -91,6 +93,12 @@ void Convert_OldPlu();
 
 /// How many of the first MaxPlu rows have SendFlag 1; with `clear` each of them becomes 0.
 int Count_PluToSend(bool clear);
+
+/// The linked department as text: two decimal digits in one byte, so that its hexadecimal text is the number.
+[[nodiscard]] std::string link_dept_text(std::uint8_t byte);
+
+/// The other way: the hexadecimal digits with which the text begins. FaultError(overflow) above one byte.
+[[nodiscard]] std::uint8_t link_dept_of(std::string_view text);
 
 /// Both tables as before any read.
 void reset_prg_plu() noexcept;
