@@ -144,6 +144,12 @@ void RecordGrid::resizeEvent(QResizeEvent* event) {
   give_rest();
 }
 
+void RecordGrid::make_room(int column, const QString& text) {
+  // The edges that the style sheet leaves at the sides of a cell, and the style's own.
+  constexpr int padding = 26;
+  setColumnWidth(column, std::max(columnWidth(column), fontMetrics().horizontalAdvance(text) + padding));
+}
+
 void RecordGrid::mark(int row) {
   marking_ = true;
   setCurrentIndex(model_.index(row - 1, std::max(0, currentIndex().column())));

@@ -54,6 +54,8 @@ class RecordGrid : public QTableView {
   /// Sets the columns' widths after their texts; `stretched` takes what is left. In a window without room for its own
   /// texts it keeps their width, and the grid scrolls.
   void fit_columns(int stretched);
+  /// Makes a column wide enough for a text: the longest it can have, where the first rows do not show it.
+  void make_room(int column, const QString& text);
 
   /// Marks the row of the record on screen, 1 for the first.
   void mark(int row);
