@@ -146,7 +146,7 @@ void RecordGrid::resizeEvent(QResizeEvent* event) {
 
 void RecordGrid::make_room(int column, const QString& text) {
   // The edges that the style sheet leaves at the sides of a cell, and the style's own.
-  constexpr int padding = 26;
+  constexpr int padding = 22;
   setColumnWidth(column, std::max(columnWidth(column), fontMetrics().horizontalAdvance(text) + padding));
 }
 

@@ -65,6 +65,7 @@ QWidget* FrmPopUpPluList::make_list(std::size_t list) {
 
 void FrmPopUpPluList::load() {
   frame_.load([this] {
+    Tab_PopUpPluList->setAccessibleName(windowTitle());
     carica_messaggi();
     for (std::size_t list = 0; list < lists; ++list) {
       for (std::size_t entry = 0; entry < entries; ++entry) {
