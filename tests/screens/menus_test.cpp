@@ -227,9 +227,6 @@ const QStringList not_there_yet = {
     "FrmSetup.C_MessageSetup",
     "FrmSetup.C_Report",
     "FrmSetup.C_ExportCaption",
-    "FrmProgramMode.C_PluProgram",
-    "FrmProgramMode.C_PluPageProgram",
-    "FrmProgramMode.C_PopUpPluList",
     "FrmProgramMode.C_Custom_Import",
 };
 
@@ -248,8 +245,10 @@ TEST_F(MenusTest, TheButtonsWithoutAScreenAreTheseAndSaySo) {
 
 TEST_F(MenusTest, ADisabledButtonDoesNothing) {
   open("FrmProgramMode");
-  control<CommandButton>("C_PluProgram").click();
-  EXPECT_EQ(top(), QStringLiteral("FrmProgramMode"));
+  for (auto* button : stage.top()->findChildren<CommandButton*>()) {
+    if (!button->isEnabled()) button->click();
+    EXPECT_EQ(top(), QStringLiteral("FrmProgramMode")) << button->objectName().toStdString();
+  }
 }
 
 TEST_F(MenusTest, TheFocusIsOnTheFirstButtonThatCanBePressed) {
