@@ -118,36 +118,41 @@ RecordGrid::RecordGrid(const QString& name, QWidget* parent) : QTableView{parent
 }
 
 void RecordGrid::fit_columns(int stretched) {
-  for (int column = 0; column < model_.columnCount(); ++column) {
-    horizontalHeader()->setSectionResizeMode(column, QHeaderView::Interactive);
-  }
+  horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
   resizeColumnsToContents();
   stretched_ = stretched;
-  stretched_needs_ = horizontalHeader()->sectionSize(stretched);
-  give_rest();
+  stretched_needs_ = columnWidth(stretched);
+  stretch();
 }
 
-void RecordGrid::give_rest() {
-  if (stretched_ < 0) return;
-  QHeaderView& header = *horizontalHeader();
-  int left = viewport()->width();
-  for (int column = 0; column < header.count(); ++column) {
-    if (column != stretched_) left -= header.sectionSize(column);
+void RecordGrid::make_room(int column, const QString& text) {
+  QStyleOptionViewItem cell;
+  initViewItemOption(&cell);
+  cell.features |= QStyleOptionViewItem::HasDisplay;
+  cell.text = text;
+  const int width = style()->sizeFromContents(QStyle::CT_ItemViewItem, &cell, {}, this).width();
+  if (column == stretched_) {
+    stretched_needs_ = std::max(stretched_needs_, width);
+  } else {
+    setColumnWidth(column, std::max(columnWidth(column), width));
   }
-  const bool has_room = left >= stretched_needs_;
-  header.setSectionResizeMode(stretched_, has_room ? QHeaderView::Stretch : QHeaderView::Interactive);
-  if (!has_room) header.resizeSection(stretched_, stretched_needs_);
+  stretch();
+}
+
+void RecordGrid::stretch() {
+  if (stretched_ < 0) return;
+  const int left = viewport()->width() - (horizontalHeader()->length() - columnWidth(stretched_));
+  if (left < stretched_needs_) {
+    horizontalHeader()->setSectionResizeMode(stretched_, QHeaderView::Interactive);
+    setColumnWidth(stretched_, stretched_needs_);
+  } else {
+    horizontalHeader()->setSectionResizeMode(stretched_, QHeaderView::Stretch);
+  }
 }
 
 void RecordGrid::resizeEvent(QResizeEvent* event) {
   QTableView::resizeEvent(event);
-  give_rest();
-}
-
-void RecordGrid::make_room(int column, const QString& text) {
-  // The edges that the style sheet leaves at the sides of a cell, and the style's own.
-  constexpr int padding = 22;
-  setColumnWidth(column, std::max(columnWidth(column), fontMetrics().horizontalAdvance(text) + padding));
+  stretch();
 }
 
 void RecordGrid::mark(int row) {

@@ -71,14 +71,14 @@ class RecordGrid : public QTableView {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  void give_rest();
+  void stretch();
 
   RecordModel model_;
-  int stretched_ = -1;
-  int stretched_needs_ = 0;
   std::function<void(int)> select_;
   bool marking_ = false;
   bool press_selected_ = false;
+  int stretched_ = -1;       ///< the column that takes what the others leave
+  int stretched_needs_ = 0;  ///< its least width; where less is left, the grid is scrolled sideways
 };
 
 }  // namespace ecr

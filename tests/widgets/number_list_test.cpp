@@ -38,6 +38,20 @@ TEST_F(NumberListTest, HoldsTheNumbersOfTheTable) {
   EXPECT_EQ(list.last(), 99);
 }
 
+TEST_F(NumberListTest, FilledAnewItShowsTheFirstNumber) {
+  list.show_number(42);
+  list.fill();
+  EXPECT_EQ(list.currentText(), QStringLiteral("1"));
+  EXPECT_EQ(list.currentIndex(), 0);
+  EXPECT_EQ(list.count(), 99);
+}
+
+TEST_F(NumberListTest, ANumberOfThePopupIsPicked) {
+  pick(list, 6);
+  EXPECT_EQ(list.currentText(), QStringLiteral("7"));
+  EXPECT_EQ(loaded, Numbers{7});
+}
+
 TEST_F(NumberListTest, WhatTheProgramShowsLoadsNothing) {
   list.show_number(42);
   EXPECT_EQ(list.currentText(), QStringLiteral("42"));

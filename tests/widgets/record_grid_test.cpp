@@ -225,6 +225,34 @@ TEST_F(RecordGridTest, TheStretchedColumnKeepsItsOwnWidthInANarrowWindow) {
   EXPECT_EQ(header->sectionSize(0) + header->sectionSize(1) + header->sectionSize(2), grid.viewport()->width());
 }
 
+TEST_F(RecordGridTest, RoomIsMadeForATextThatIsNotThereYet) {
+  grid.fit_columns(1);
+  const QString longest{16, u'8'};
+  grid.make_room(0, longest);
+  grid.make_room(0, QStringLiteral("8"));
+  let_screens_settle();
+  EXPECT_EQ(grid.horizontalHeader()->length(), grid.viewport()->width()) << "the stretched column gave it";
+  const int made = grid.columnWidth(0);
+  grid.cells().set_cell(1, 0, longest);
+  grid.resizeColumnToContents(0);
+  EXPECT_EQ(made, grid.columnWidth(0)) << "as much as the text would have got";
+}
+
+TEST_F(RecordGridTest, WhereTheStretchedColumnWouldBeTooNarrowTheGridIsScrolledSideways) {
+  const QString longest{100, u'8'};
+  grid.fit_columns(1);
+  grid.make_room(1, longest);
+  let_screens_settle();
+  EXPECT_GE(grid.columnWidth(1), grid.fontMetrics().horizontalAdvance(longest));
+  stage.resize(700, 600);
+  let_screens_settle();
+  EXPECT_GE(grid.columnWidth(1), grid.fontMetrics().horizontalAdvance(longest));
+  EXPECT_GT(grid.horizontalHeader()->length(), grid.viewport()->width());
+  stage.resize(1600, 600);
+  let_screens_settle();
+  EXPECT_EQ(grid.horizontalHeader()->length(), grid.viewport()->width()) << "it takes what is left again";
+}
+
 class TableFrameTest : public RecordGridTest {
  protected:
   TableFrameTest()

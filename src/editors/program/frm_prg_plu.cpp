@@ -169,11 +169,7 @@ void FrmPrgPlu::load() {
     Fg_Plu->setAccessibleName(windowTitle());
     carica_messaggi();
     Carica_Griglia();
-    Fg_Plu->fit_columns(PluGrid::name);
-    Fg_Plu->make_room(PluGrid::number, QString::number(Global::MaxPlu));
-    Fg_Plu->make_room(PluGrid::code, QString(code_width, u'9'));
-    for (const int price : {PluGrid::price1, PluGrid::price2}) Fg_Plu->make_room(price, QStringLiteral("99999.99"));
-    Fg_Plu->make_room(PluGrid::stock, QStringLiteral("-9999.99"));
+    grid_.fit_columns();
     Cmb_PluNumber->show_number(1);
     Cmb_LinkDept->fill(numbers(1, 99));
     E_Price1->show_text(QStringLiteral("0"));

@@ -45,6 +45,20 @@ void PluGrid::begin(const QStringList& headings, const QStringList& types, const
   cells.set_headings(headings);
 }
 
+void PluGrid::fit_columns() {
+  grid_.fit_columns(name);
+  grid_.make_room(number, QString::number(Global::MaxPlu));
+  grid_.make_room(code, QStringLiteral("9999999999999"));
+  grid_.make_room(name, QStringLiteral("Bread of wheat 1"));
+  for (const QString& label : types_) grid_.make_room(status, label);
+  for (const QString& label : taxes_) {
+    grid_.make_room(tax, label);
+    grid_.make_room(take_out_tax, label);
+  }
+  for (const Column price : {price1, price2}) grid_.make_room(price, QStringLiteral("9999.99"));
+  grid_.make_room(stock, QStringLiteral("-999.99"));
+}
+
 void PluGrid::fill() {
   const auto rows = static_cast<std::size_t>(Global::MaxPlu);
   const bool is_first = shown_.empty();

@@ -22,6 +22,9 @@ class PluGrid {
   /// What belongs to a load: the headings, and the choices whose labels the cells show in lower case.
   void begin(const QStringList& headings, const QStringList& types, const QStringList& taxes);
 
+  /// Sets the columns' widths for what items usually hold, whatever the first ones do.
+  void fit_columns();
+
   /// Brings all rows up to the working table. A value that no choice has leaves its cell as it stood.
   void fill();
 
