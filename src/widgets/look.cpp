@@ -104,6 +104,7 @@ QTabBar::tab:hover, QTabBar::tab:selected { color: @text; }
 QTabBar::tab:selected { border-bottom-color: @accent; }
 QTabBar::tab:focus { color: @accent; background: @hover; }
 QWidget#WaitCard { background: @base; border: 1px solid @line; border-radius: 10px; }
+QAbstractScrollArea::corner { background: transparent; border: none; }
 QScrollBar:vertical { background: transparent; width: 12px; margin: 2px; }
 QScrollBar:horizontal { background: transparent; height: 12px; margin: 2px; }
 QScrollBar::handle { background: @line; border-radius: 4px; min-height: 28px; min-width: 28px; }

@@ -10,19 +10,24 @@
 namespace ecr {
 namespace {
 
-/// Leaves the mark off the first column, which holds the record's number.
-class MarkDelegate : public QStyledItemDelegate {
+/// Draws a cell itself: the style sheet would look its rules up for each of hundreds at every key. The mark is left off
+/// the first column, which holds the record's number.
+class CellDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-    QStyleOptionViewItem cell = option;
-    if (index.column() == 0 && (cell.state & QStyle::State_Selected) != 0) {
-      // The view has painted the whole row as marked already.
-      painter->fillRect(cell.rect, cell.palette.base());
-      cell.state &= ~QStyle::State_Selected;
-    }
-    QStyledItemDelegate::paint(painter, cell, index);
+    const bool marked = (option.state & QStyle::State_Selected) != 0;
+    if (marked)
+      painter->fillRect(option.rect, index.column() == 0 ? option.palette.base() : option.palette.highlight());
+    painter->setFont(option.font);
+    painter->setPen(option.palette.color(marked && index.column() > 0 ? QPalette::HighlightedText : QPalette::Text));
+    // As far from the sides as sizeHint reckons.
+    constexpr int side = 11;
+    const QRect place = option.rect.adjusted(side, 0, -side, 0);
+    const QString text = option.fontMetrics.elidedText(index.data().toString(), Qt::ElideRight, place.width());
+    const auto alignment = index.data(Qt::TextAlignmentRole).value<Qt::Alignment>();
+    painter->drawText(place, static_cast<int>(alignment) | Qt::TextSingleLine, text);
   }
 };
 
@@ -95,7 +100,7 @@ std::size_t RecordModel::place(int row, int column) const {
 RecordGrid::RecordGrid(const QString& name, QWidget* parent) : QTableView{parent} {
   setObjectName(name);
   setModel(&model_);
-  setItemDelegate(new MarkDelegate{this});
+  setItemDelegate(new CellDelegate{this});
   setSelectionBehavior(QAbstractItemView::SelectRows);
   setSelectionMode(QAbstractItemView::SingleSelection);
   setEditTriggers(QAbstractItemView::NoEditTriggers);
