@@ -203,6 +203,24 @@ TEST_F(PluExchange, TooManyRowsStopTheImportAndLeaveTheGrid) {
   EXPECT_EQ(shown("E_FreeCode"), QStringLiteral("10"));
 }
 
+TEST_F(PluExchange, BehindAStoppedImportASaveSortsByTheCodesThatTheGridShows) {
+  std::string text = "h\r\n";
+  for (int i = 1; i <= 3002; ++i) text += "1;Tea;" + std::to_string(5000 - i) + ";5;\r\n";
+  write("items.csv", text);
+  open_editor();
+  import_from("items.csv");
+  save();
+  EXPECT_EQ(code(1), "10") << "the code in the field";
+  EXPECT_EQ(code(2), "4998") << "the grid's 20 stood in order";
+  EXPECT_EQ(PrgPlu.PluCount, 5) << "by the rows that the grid showed";
+  EXPECT_EQ(cell(2, 1), QStringLiteral("4998")) << "now it shows what the table holds";
+  EXPECT_EQ(cell(3000, 1), QStringLiteral("2000"));
+  save();
+  EXPECT_EQ(code(2), "2000") << "and the next save sorts by that";
+  EXPECT_EQ(code(3000), "4998");
+  EXPECT_EQ(PrgPlu.PluCount, 5) << "without an empty row the count stays";
+}
+
 TEST_F(PluExchange, A3001stRowIsCountedAndWritten) {
   std::string text = "h\r\n";
   for (int i = 1; i <= 3001; ++i) text += "1;Tea;" + std::to_string(i) + ";5;\r\n";
