@@ -9,13 +9,10 @@
 #include "emulator/logo_conversion.h"
 #include "emulator/receipt.h"
 #include "emulator/tool_codes.h"
+#include "emulator/trading.h"
 
 namespace ecr {
 namespace {
-
-/// Report 12 of a register that answers by itself: an hour of the day each, nothing sold in any. Whoever asks for it to
-/// test the link looks only whether it came.
-constexpr std::string_view time_report{"\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0", 24};
 
 std::string folder_form(std::string_view host) {
   std::string folder = backslash_path(host);
@@ -77,7 +74,7 @@ std::optional<std::int32_t> EmulatedRegister::range_report(std::uint8_t file, st
   return call(note, file, [this, file, from, to, port](const RegisterSettings& settings) {
     if (!port_answers(port, settings)) return ToolCode::port_not_opened;
     if (!is_report(file)) return ToolCode::no_such_number;
-    return from > to ? ToolCode::range_reversed : report(file);
+    return from > to ? ToolCode::range_reversed : report(file, trading::Range{from, to});
   });
 }
 
@@ -99,6 +96,7 @@ std::optional<std::int32_t> EmulatedRegister::call(const std::string& note, std:
                                                    const Work& work) const {
   append_to_calls(note);
   RegisterSettings settings{register_};
+  trade_days(settings);
   if (settings.fails(file)) return std::nullopt;
   std::this_thread::sleep_for(settings.delay());
   if (settings.hangs(file)) {
@@ -111,6 +109,16 @@ std::optional<std::int32_t> EmulatedRegister::call(const std::string& note, std:
   return work(settings);
 }
 
+/// Trades what it was told to. Where the line that tells it cannot be cleared it would trade at every call: then not at
+/// all. What keeps it from trading is no matter of the call.
+void EmulatedRegister::trade_days(RegisterSettings& settings) const {
+  const int days = settings.days_to_trade();
+  if (days == 0 || !settings.trade_no_more()) return;
+  for (int day = 0; day < days; ++day) {
+    if (!trading::trade(register_, settings.seed(), trading::TradedDay::next).empty()) return;
+  }
+}
+
 void EmulatedRegister::append_to_calls(const std::string& note) const {
   const std::string path = host_path(register_ + "calls.txt");
   std::error_code ignored;
@@ -120,7 +128,7 @@ void EmulatedRegister::append_to_calls(const std::string& note) const {
 }
 
 std::int32_t EmulatedRegister::upload(std::uint8_t file, const RegisterSettings& settings) const {
-  if (is_report(file)) return report(file);
+  if (is_report(file)) return report(file, std::nullopt);
   if (file == ToolFile::release) {
     const std::string_view name = settings.release_file();
     return name.empty() ? ToolCode::refused : deliver(name, settings.banner());
@@ -146,12 +154,11 @@ std::int32_t EmulatedRegister::download(std::uint8_t file) const {
   return ToolCode::done;
 }
 
-std::int32_t EmulatedRegister::report(std::uint8_t file) const {
+std::int32_t EmulatedRegister::report(std::uint8_t file, const std::optional<trading::Range>& range) const {
   std::string bytes;
   const Fault fault = read_file(register_ + "reports\\" + std::to_string(file) + ".bin", bytes);
   if (missing(fault)) {
-    if (file != ToolFile::time) return ToolCode::no_such_number;
-    bytes = time_report;
+    bytes = trading::report_of(register_, file, range);
   } else if (fault.stands()) {
     return code_of_reading(fault);
   }

@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "core/fault.h"
+#include "emulator/day_reports.h"
 #include "emulator/memory.h"
 #include "emulator/settings.h"
 
@@ -39,9 +40,10 @@ class EmulatedRegister {
   [[nodiscard]] std::optional<std::int32_t> call(const std::string& note, std::optional<std::uint8_t> file,
                                                  const Work& work) const;
   void append_to_calls(const std::string& note) const;
+  void trade_days(RegisterSettings& settings) const;
   [[nodiscard]] std::int32_t upload(std::uint8_t file, const RegisterSettings& settings) const;
   [[nodiscard]] std::int32_t download(std::uint8_t file) const;
-  [[nodiscard]] std::int32_t report(std::uint8_t file) const;
+  [[nodiscard]] std::int32_t report(std::uint8_t file, const std::optional<trading::Range>& range) const;
   [[nodiscard]] std::int32_t deliver(std::string_view name, std::string_view bytes) const;
 
   std::string given_;     // as it came in

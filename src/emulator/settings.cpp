@@ -16,6 +16,8 @@ constexpr std::uint8_t fresh_port = 4;
 constexpr std::string_view fresh_banner = "ECRZ300/ECRZ320F    FW rel.1.04";
 constexpr std::size_t banner_size = 36;
 constexpr double longest_delay = 3600;
+constexpr std::uint64_t fresh_seed = 1;
+constexpr int most_days = 366;
 
 /// Some editors put these bytes in front of a text.
 constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
@@ -128,6 +130,20 @@ std::optional<std::int32_t> RegisterSettings::logo_answer() const {
 bool RegisterSettings::hangs(std::optional<std::uint8_t> file) const {
   const std::string_view value = word("hang").value_or("");
   return reads(value, "next") || (file && number_in<std::uint8_t>(value) == file);
+}
+
+std::uint64_t RegisterSettings::seed() const {
+  return number_in<std::uint64_t>(word("seed").value_or("")).value_or(fresh_seed);
+}
+
+int RegisterSettings::days_to_trade() const {
+  const int days = number_in<int>(word("trade").value_or("")).value_or(0);
+  return days > 0 && days <= most_days ? days : 0;
+}
+
+bool RegisterSettings::trade_no_more() {
+  text_.set("trade", "0");
+  return !save_file(path_, text_.bytes()).stands();
 }
 
 void RegisterSettings::hang_no_more() {

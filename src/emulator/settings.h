@@ -70,6 +70,15 @@ class RegisterSettings {
   /// Whether this call leaves the exchange tool hanging.
   [[nodiscard]] bool hangs(std::optional<std::uint8_t> file) const;
 
+  /// The number that the days of trading follow.
+  [[nodiscard]] std::uint64_t seed() const;
+
+  /// How many days are to be traded now, up to a year.
+  [[nodiscard]] int days_to_trade() const;
+
+  /// Writes into the file that no more days are to be traded. Answers whether it says so now.
+  [[nodiscard]] bool trade_no_more();
+
   /// Writes into the file that the next call does not hang. A file that cannot be written stays as it is.
   void hang_no_more();
 

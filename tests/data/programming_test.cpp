@@ -448,6 +448,7 @@ TEST_P(Sample, HasManyItemsShortAndLongListedAndAccented) {
 TEST(EmulatedRegister, IsAtFirstTheZ320OfTheSamples) {
   EXPECT_EQ(installed("register/PRG_MODE.BIN"), installed("register/samples/Z320/PRG_MODE.BIN"));
   EXPECT_EQ(installed("register/PRG_PLU.BIN"), installed("register/samples/Z320/PRG_PLU.BIN"));
+  EXPECT_EQ(installed("register/TOTALS.BIN"), installed("register/samples/Z320/TOTALS.BIN"));
   EXPECT_EQ(installed("register/devices.txt"), "USB Serial Port (COM4)\n");
 }
 
@@ -459,7 +460,7 @@ TEST(EmulatedRegister, AnswersAtFirstWithoutFaults) {
   }
   EXPECT_EQ(settings, (std::vector<std::string>{"model = Z320", "port = 4", "banner = ECRZ300/ECRZ320F    FW rel.1.04",
                                                 "release = RELEASE.BIN", "delay = 0", "answer = 0", "logo = normal",
-                                                "fails = no", "hang = no", "seed = 1"}));
+                                                "fails = no", "hang = no", "trade = 0", "seed = 1"}));
 }
 
 }  // namespace
