@@ -110,6 +110,26 @@ Fault read_file(std::string_view path, std::string& bytes, std::size_t limit) {
   return {};
 }
 
+FileReader::FileReader(std::string_view path) {
+  const fs::path host = native_path(path);
+  std::error_code error;
+  if (!fs::is_regular_file(host, error)) return;
+  file_.open(host, std::ios::binary);
+  if (!file_) return;
+  const std::uintmax_t size = fs::file_size(host, error);
+  if (!error) size_ = size;
+}
+
+std::size_t FileReader::read(std::span<std::uint8_t> bytes) {
+  if (!file_.is_open() || !file_) return 0;
+  file_.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+  return static_cast<std::size_t>(file_.gcount());
+}
+
+Fault append_file(std::string_view path, std::string_view bytes) {
+  return system_layer().append_file(host_path(path), bytes);
+}
+
 Fault read_or_create_file(std::string_view path, std::string& bytes, std::size_t limit) {
   const Fault fault = read_file(path, bytes, limit);
   if (fault.code != FaultCode::file_not_found) return fault;

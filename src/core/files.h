@@ -3,7 +3,10 @@
 // turns it into a path of the host at the moment a file is opened. Nothing here throws; a Fault tells what went wrong.
 
 #include <cstddef>
+#include <cstdint>
+#include <fstream>
 #include <limits>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -28,6 +31,26 @@ namespace ecr {
 /// The same, but a missing file is created empty and read as such.
 [[nodiscard]] Fault read_or_create_file(std::string_view path, std::string& bytes,
                                         std::size_t limit = std::numeric_limits<std::size_t>::max());
+
+/// Reads a file from its beginning on, piece by piece. One that cannot be opened reads as an empty one.
+class FileReader {
+ public:
+  explicit FileReader(std::string_view path);
+
+  /// In bytes, as it was when the file was opened.
+  [[nodiscard]] std::uint64_t size() const noexcept { return size_; }
+
+  /// Fills `bytes` from the place where the last piece ended. Answers how many there were; fewer than asked for means
+  /// that the file has ended.
+  std::size_t read(std::span<std::uint8_t> bytes);
+
+ private:
+  std::ifstream file_;
+  std::uint64_t size_ = 0;
+};
+
+/// Appends `bytes` to the file, creating it where it is missing.
+[[nodiscard]] Fault append_file(std::string_view path, std::string_view bytes);
 
 /// Makes the file hold exactly `bytes`, in one step: see System::replace_file.
 [[nodiscard]] Fault save_file(std::string_view path, std::string_view bytes);

@@ -90,6 +90,37 @@ TEST_F(Files, WhatIsNoFileCannotBeRead) {
   EXPECT_FALSE(exists("Dati/nothing")) << "reading alone creates nothing";
 }
 
+TEST_F(Files, AFileIsReadPieceByPiece) {
+  write("Dati/file", "0123456789");
+  FileReader file{path("file")};
+  EXPECT_EQ(file.size(), 10U);
+  std::vector<std::uint8_t> piece(4);
+  EXPECT_EQ(file.read(piece), 4U);
+  EXPECT_EQ(piece, (std::vector<std::uint8_t>{'0', '1', '2', '3'}));
+  EXPECT_EQ(file.read(piece), 4U);
+  EXPECT_EQ(file.read(piece), 2U);
+  EXPECT_EQ(piece, (std::vector<std::uint8_t>{'8', '9', '6', '7'}));
+  EXPECT_EQ(file.read(piece), 0U);
+}
+
+TEST_F(Files, WhatIsNoFileReadsPieceByPieceAsAnEmptyOne) {
+  for (const char* name : {"missing", "Report", ""}) {
+    FileReader file{path(name)};
+    std::vector<std::uint8_t> piece(4);
+    EXPECT_EQ(file.size(), 0U) << name;
+    EXPECT_EQ(file.read(piece), 0U) << name;
+  }
+}
+
+TEST_F(Files, AnAppendCreatesTheFileAndAddsToIt) {
+  EXPECT_FALSE(append_file(path("file"), "").stands());
+  EXPECT_EQ(bytes("Dati/file"), "");
+  EXPECT_FALSE(append_file(path("file"), "one").stands());
+  EXPECT_FALSE(append_file(path("file"), "two").stands());
+  EXPECT_EQ(bytes("Dati/file"), "onetwo");
+  EXPECT_TRUE(append_file(path("Report"), "x").stands());
+}
+
 TEST_F(Files, AMissingFileIsCreatedEmptyWhereItIsAskedFor) {
   std::string read = "before";
   EXPECT_FALSE(read_or_create_file(path("fresh"), read).stands());
