@@ -27,8 +27,12 @@ std::size_t key_of(Modifier modifier) {
   return static_cast<std::size_t>(modifier) / 2 % 2;
 }
 
-Modifier modifier_of(bool percentage, std::size_t key, bool subtotal) {
-  return static_cast<Modifier>((percentage ? 4U : 0U) + 2 * key + (subtotal ? 1U : 0U));
+/// One of the keys, drawn step by step: a call's arguments would be drawn in an order of the compiler's own.
+Modifier any_modifier(Chance& chance, bool subtotal) {
+  constexpr int percentage_chance = 60;
+  const unsigned percentage = chance.percent(percentage_chance) ? 4 : 0;
+  const unsigned second = chance.percent(50) ? 2 : 0;
+  return static_cast<Modifier>(percentage + second + (subtotal ? 1 : 0));
 }
 
 /// What the key makes of an amount above zero; 0 if it is not programmed, or would leave nothing.
@@ -91,20 +95,21 @@ void modify(Entry& entry, const Shop& shop, Chance& chance) {
   if (!shop.clerks.at(entry.clerk).discounts) return;
   for (Line& line : entry.lines) {
     if (line.kind != Line::Kind::sale || line.amount <= 0 || !chance.percent(item_chance)) continue;
-    const Modifier modifier = modifier_of(chance.percent(60), static_cast<std::size_t>(chance.from(0, 1)), false);
+    const Modifier modifier = any_modifier(chance, false);
     line.modified_by = modification(shop, chance, modifier, line.amount);
     if (line.modified_by != 0) line.modifier = modifier;
   }
   add_up(entry, shop);
   if (entry.total <= 0 || !chance.percent(subtotal_chance)) return;
-  const Modifier modifier = modifier_of(chance.percent(60), static_cast<std::size_t>(chance.from(0, 1)), true);
+  const Modifier modifier = any_modifier(chance, true);
   entry.modified_by = modification(shop, chance, modifier, entry.total);
   if (entry.modified_by != 0) entry.modifier = modifier;
 }
 
 /// How many things are in a receipt.
 std::int64_t basket_size(const Entry& entry, Chance& chance) {
-  if (entry.guests > 0) return entry.guests + chance.from(1, 2 * entry.guests);
+  const std::int64_t guests = entry.guests;
+  if (guests > 0) return guests + chance.from(1, 2 * guests);
   constexpr std::array<int, 6> weights = {22, 30, 22, 14, 8, 4};
   return 1 + static_cast<std::int64_t>(chance.pick(weights));
 }
@@ -175,11 +180,11 @@ std::vector<std::size_t> Goods::extras(bool negative) const {
   return negative ? negative_keys_ : keys_;
 }
 
-Line Goods::from_department(Chance& chance, std::size_t place, bool take_out) const {
-  const Shop::Department& department = shop_->departments.at(place);
+Line Goods::from_department(Chance& chance, std::size_t number, bool take_out) const {
+  const Shop::Department& department = shop_->departments.at(number);
   Line line;
   line.name = department.name;
-  line.department = place;
+  line.department = number;
   line.tax = take_out ? department.take_out_tax : department.tax;
   line.price = department.price > 0 ? department.price : keyed_price(*shop_, chance, department.limit);
   if (department.negative) line.price = -line.price;

@@ -22,7 +22,7 @@ class Goods {
   /// What stands on its own key: a department with a price, or taken back. Nothing if there is none.
   [[nodiscard]] std::vector<std::size_t> extras(bool negative) const;
 
-  [[nodiscard]] Line from_department(Chance& chance, std::size_t department, bool take_out) const;
+  [[nodiscard]] Line from_department(Chance& chance, std::size_t number, bool take_out) const;
 
  private:
   const Shop* shop_;

@@ -17,8 +17,8 @@ constexpr std::uint64_t sign_in(std::size_t size) {
 std::optional<std::uint64_t> read_bcd(std::span<const std::uint8_t> field) {
   std::uint64_t number = 0;
   for (std::size_t i = field.size(); i-- > 0;) {
-    const unsigned tens = field[i] >> 4U;
-    const unsigned units = field[i] & 15U;
+    const std::uint64_t tens = field[i] >> 4U;
+    const std::uint64_t units = field[i] & 15U;
     if (tens > 9 || units > 9) return std::nullopt;
     number = number * 100 + tens * 10 + units;
   }

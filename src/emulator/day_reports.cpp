@@ -134,7 +134,7 @@ std::string_view day_in(std::string_view journal, bool newest) {
 }  // namespace
 
 DayReports::DayReports(const DayTotals& totals, const GrandTotals& grand, const Shop& shop, std::string_view item_table,
-                       std::string journal) {
+                       std::string_view journal) {
   RecordWriter bytes;
   bytes.bytes(totals_body(totals.all));
   for (const std::uint64_t sum : {grand.total, grand.gross, grand.refunds}) {

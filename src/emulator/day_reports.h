@@ -34,7 +34,7 @@ class DayReports {
  public:
   /// Of a day's totals. `item_table` gives the codes of the items; `journal` are journal records, see journal.h.
   DayReports(const DayTotals& totals, const GrandTotals& grand, const Shop& shop, std::string_view item_table,
-             std::string journal);
+             std::string_view journal);
 
   /// As they stand in TOTALS.BIN; nothing if the bytes are too few.
   [[nodiscard]] static std::optional<DayReports> from(std::string_view bytes);

@@ -4,8 +4,8 @@
 //                            counters with which that day ended
 // Ends with 0, or with 1 and a line that says why nothing was traded.
 
-#include <cstdio>
 #include <exception>
+#include <iostream>
 #include <string>
 #include <string_view>
 
@@ -38,6 +38,6 @@ int main(int count, char** arguments) {
     }
   }
   if (wrong.empty()) return 0;
-  std::fprintf(stderr, "%s\n", wrong.c_str());
+  std::cerr << wrong << '\n';
   return 1;
 }

@@ -19,7 +19,7 @@ enum class TradedDay : std::uint8_t {
 /// Trades one day with what is held in `folder`, which ends with a backslash. Answers what kept it from doing so, in
 /// words, which is empty if nothing did: programming that is missing, cannot be read or has a wrong length, or a file
 /// that cannot be written.
-[[nodiscard]] std::string trade(std::string_view folder, std::uint64_t seed, TradedDay day);
+[[nodiscard]] std::string trade(std::string_view folder, std::uint64_t seed, TradedDay which);
 
 /// The bytes of report `number`, 3 to 21, of the register in `folder`; all totals are zero where it never traded. What
 /// a range means to which report, DayReports::report and stock_report tell; a stock report of number 21 without a range
