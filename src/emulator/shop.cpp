@@ -39,6 +39,11 @@ std::int64_t amount_in(std::span<const std::uint8_t> field) {
   return static_cast<std::int64_t>(read_bcd(field).value_or(0));
 }
 
+/// A price as the register can be given one.
+std::int64_t price_in(std::span<const std::uint8_t> field) {
+  return std::min(amount_in(field), no_limit);
+}
+
 Shop::Department department_of(const DeptRecord& record) {
   constexpr std::uint8_t group_ten = 16;
   Shop::Department department;
@@ -48,7 +53,7 @@ Shop::Department department_of(const DeptRecord& record) {
   department.take_out_tax = tax_of(record.TakeOutTax);
   department.limit = highest(record.Status1 >> 4U);
   department.negative = bit(record.Status1, 0);
-  if ((record.Status2 & 3U) != 0) department.price = amount_in(record.Price);
+  if ((record.Status2 & 3U) != 0) department.price = price_in(record.Price);
   return department;
 }
 
@@ -78,8 +83,8 @@ std::optional<Shop::Item> item_of(const PluRecord& record, std::size_t row) {
   item.take_out_tax = tax_of(record.TakeOutTax);
   const unsigned type = record.Flags1 & 3U;
   if (type != 0) {
-    item.price1 = amount_in(record.Price1);
-    item.price2 = amount_in(record.Price2);
+    item.price1 = price_in(record.Price1);
+    item.price2 = price_in(record.Price2);
   }
   // What is sold by weight has a stock of fractions.
   item.by_weight = type == normal && read_signed_bcd(record.Stock).value_or(0) % one_piece != 0;
