@@ -16,8 +16,8 @@ using namespace ecr;
 using namespace ecr::fuzz;
 
 constexpr std::string_view file_name = "register/register.txt";
-constexpr std::array<std::string_view, 9> keys = {"model",  "port", "banner", "release", "delay",
-                                                  "answer", "logo", "fails",  "hang"};
+constexpr std::array<std::string_view, 11> keys = {"model", "port",  "banner", "release", "delay", "answer",
+                                                   "logo",  "fails", "hang",   "trade",   "seed"};
 
 constexpr std::array<std::uint8_t, 6> files = {0, 1, 2, 12, 22, 23};
 constexpr std::array<std::uint8_t, 2> directions = {0, 1};
@@ -47,6 +47,8 @@ void ask(const RegisterSettings& settings) {
   require(release.empty() || release == "RELEASE.BIN" || release == "RELEA.BIN",
           "the release file is one of the three");
   require(settings.delay().count() >= 0 && settings.delay() <= std::chrono::hours{1}, "a call takes an hour at most");
+  require(settings.days_to_trade() >= 0 && settings.days_to_trade() <= 366, "a year is traded at most");
+  static_cast<void>(settings.seed());
 }
 
 void call(const Installation& installation, const std::string& folder) {
@@ -78,6 +80,8 @@ void call(const Installation& installation, const std::string& folder) {
   }
   static_cast<void>(machine.range_report(12, 1, 1, 9, port));
   static_cast<void>(machine.send_logo("/", "none.bmp", 1));
+  settings = RegisterSettings{Global::PathApp + "register\\"};
+  require(settings.days_to_trade() == 0, "what was to be traded is not traded again");
 }
 
 }  // namespace

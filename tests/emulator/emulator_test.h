@@ -50,7 +50,7 @@ struct Calls {
 /// The bytes of every file below a folder of the host, by its path there.
 [[nodiscard]] std::map<std::string, std::string> all_files(const std::string& folder);
 
-/// The text of register.txt as a fresh register has it.
+/// The text of register.txt as a fresh register has it, but for the line that makes it trade.
 extern const std::string fresh_register;
 
 [[nodiscard]] std::string bytes_for_image(unsigned seed);

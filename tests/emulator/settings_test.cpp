@@ -100,6 +100,8 @@ void expect_fresh(const RegisterSettings& settings) {
   EXPECT_EQ(settings.port(), 4);
   EXPECT_EQ(settings.banner(), "ECRZ300/ECRZ320F    FW rel.1.04     ");
   EXPECT_EQ(settings.release_file(), "RELEASE.BIN");
+  EXPECT_EQ(settings.days_to_trade(), 0);
+  EXPECT_EQ(settings.seed(), 1U);
   EXPECT_EQ(settings.delay(), milliseconds{0});
   EXPECT_EQ(settings.logo_answer(), std::nullopt);
   for (const std::optional<std::uint8_t> file : {std::optional<std::uint8_t>{}, {0}, {12}, {255}}) {
@@ -222,6 +224,17 @@ TEST_F(RegisterSettingsTest, KnowWhichCallHangs) {
   EXPECT_FALSE(one.hangs({}));
   EXPECT_FALSE(reading("hang = 0x0C\n").hangs(12));
   EXPECT_FALSE(reading("hang = 268\n").hangs(12));
+}
+
+TEST_F(RegisterSettingsTest, KnowHowManyDaysToTradeAndTheirSeed) {
+  EXPECT_EQ(reading("trade = 0").days_to_trade(), 0);
+  EXPECT_EQ(reading("trade = 366").days_to_trade(), 366);
+  EXPECT_EQ(reading("trade = 367").days_to_trade(), 0);
+  EXPECT_EQ(reading("trade = -1").days_to_trade(), 0);
+  EXPECT_EQ(reading("trade = often").days_to_trade(), 0);
+  EXPECT_EQ(reading("seed = 18446744073709551615").seed(), 18446744073709551615U);
+  EXPECT_EQ(reading("seed = -5").seed(), 1U);
+  EXPECT_EQ(reading("seed =").seed(), 1U);
 }
 
 TEST_F(RegisterSettingsTest, WriteBackThatNothingHangsAndKeepTheRest) {
