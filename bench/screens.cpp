@@ -96,8 +96,9 @@ std::vector<QString> openers(Program& program, const QString& menu) {
   for (const CommandButton* button : program.stage.top()->findChildren<CommandButton*>()) {
     const QString name = button->objectName();
     const bool opens = button->isEnabled() && button->isVisible() && button->property("tile").toBool();
-    // This one asks a question and then sends.
-    if (opens && name != QStringLiteral("C_Reset")) names.push_back(name);
+    // One asks a question and then sends, the other asks for a file.
+    const bool asks = name == QStringLiteral("C_Reset") || name == QStringLiteral("C_Custom_Import");
+    if (opens && !asks) names.push_back(name);
   }
   return names;
 }

@@ -4,6 +4,7 @@
 #include <QIcon>
 #include <QTimer>
 
+#include "captions/frm_caption_setting.h"
 #include "core/catalogue.h"
 #include "core/files.h"
 #include "core/global.h"
@@ -110,6 +111,7 @@ void register_screens() {
   register_one<FrmPrgPlu>("FrmPrgPlu");
   register_one<FrmPluPageProgram>("FrmPluPageProgram");
   register_one<FrmPopUpPluList>("FrmPopUpPluList");
+  register_one<FrmCaptionSetting>("FrmCaptionSetting");
 }
 
 void Main(Stage& stage, const QString& application_folder, const QString& command_line) {

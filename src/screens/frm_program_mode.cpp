@@ -1,5 +1,10 @@
 #include "screens/frm_program_mode.h"
 
+#include "captions/text_files.h"
+#include "core/files.h"
+#include "widgets/file_chooser.h"
+#include "widgets/screen_text.h"
+
 namespace ecr {
 namespace {
 
@@ -44,6 +49,14 @@ constexpr MenuRow rows[] = {
 FrmProgramMode::FrmProgramMode()
     : MenuScreen{QStringLiteral("FrmProgramMode"), rows, 3, Key::FRM_ALL_C_ANNULLA, "Back"} {
   captions_.add(*this, Key::FRM_PROGRAM_MODE_TITLE, "Program Mode");
+  set_routine("C_Custom_Import", [this] { import_captions(); });
+}
+
+void FrmProgramMode::import_captions() {
+  const QString file = choose_file_to_open(*this, {.name = QStringLiteral("Comm_Percorso"),
+                                                   .title = QStringLiteral("File Import Selection"),
+                                                   .filter = QStringLiteral("File (*.txt)")});
+  if (!file.isEmpty()) Import_Caption(backslash_path(path_of_toolkit(file)));
 }
 
 }  // namespace ecr

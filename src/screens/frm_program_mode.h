@@ -1,5 +1,5 @@
 #pragma once
-// The menu of the programmable areas.
+// The menu of the programmable areas, and the import of a customization.
 
 #include "screens/menu.h"
 
@@ -10,6 +10,9 @@ class FrmProgramMode : public MenuScreen {
 
  public:
   FrmProgramMode();
+
+ private:
+  void import_captions();
 };
 
 }  // namespace ecr

@@ -1,10 +1,12 @@
 #include "screens/frm_setup.h"
 
+#include "captions/text_files.h"
 #include "core/global.h"
 #include "core/run_log.h"
 #include "core/shell.h"
 #include "image/prg_mode.h"
 #include "link/transfer.h"
+#include "screens/screen_factory.h"
 
 namespace ecr {
 namespace {
@@ -30,6 +32,7 @@ constexpr MenuRow rows[] = {
 FrmSetup::FrmSetup() : MenuScreen{QStringLiteral("FrmSetup"), rows, 2, Key::FRM_SETUP_C_EXIT, "BACK"} {
   setWindowTitle(QStringLiteral("Vermanto ECR programming Utility"));
   set_routine("C_Reset", [this] { reset_register(); });
+  set_routine("C_ExportCaption", [this] { export_captions(); });
 }
 
 void FrmSetup::load() {
@@ -49,6 +52,10 @@ void FrmSetup::reset_register() {
     // The image in memory stays as it is: the menus and editors show the values from before until the next way in.
     if (!Send_PrgModeToEcr(true, true)) tell(BoxKind::critical, MsgProgramKo);
   });
+}
+
+void FrmSetup::export_captions() {
+  if (Export_Caption()) open(make_screen(QStringLiteral("FrmCaptionSetting")));
 }
 
 }  // namespace ecr

@@ -1,5 +1,5 @@
 #pragma once
-// The Setup menu: from a loaded programming to every editor, and the reset of the register.
+// The Setup menu: from a loaded programming to every editor; the reset of the register; the export of its texts.
 
 #include "screens/menu.h"
 
@@ -15,6 +15,7 @@ class FrmSetup : public MenuScreen {
 
  private:
   void reset_register();
+  void export_captions();
 };
 
 }  // namespace ecr
