@@ -54,6 +54,8 @@ FrmCaptionSetting::FrmCaptionSetting()
     Tab_Print->addTab(page, {});
   }
   frame_.body->addWidget(Tab_Print, 1);
+  // From the tabs' controls on to the buttons, and round again.
+  setTabOrder(frame_.C_Annulla, frame_.top.I_Help);
   frame_.on_save([this] { save(); });
 }
 

@@ -136,7 +136,7 @@ TEST_F(PreviewTest, PlayLetsItRunAtTheChosenSpeedAndStopEndsThat) {
   click("C_Play");
   EXPECT_EQ(caption("C_Play"), QStringLiteral("Stop"));
   EXPECT_EQ(display().interval_ms(), scroll_interval_ms(2));
-  work_until([this] { return display().text() == QStringLiteral("LOSED               "); });
+  work_until([this] { return display().text() != QStringLiteral("CLOSED              "); });
   list("Cmb_ScrollSpeed").show_number(0);
   EXPECT_EQ(display().interval_ms(), scroll_interval_ms(0)) << "another speed counts at once";
   EXPECT_TRUE(display().plays());
