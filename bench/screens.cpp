@@ -7,6 +7,8 @@
 
 #include <QAbstractScrollArea>
 #include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
 
 #include "core/global.h"
 #include "image/prg_mode.h"
@@ -80,6 +82,26 @@ void save_screen(benchmark::State& state, Program& program, const QString& menu,
   }
 }
 
+/// A key typed into a line of the receipt's header, until the paper beside it is painted; a Backspace takes it back.
+void type_into_header(benchmark::State& state, Program& program) {
+  Program::load(Global::model_z320);
+  program.stand_on(QStringLiteral("FrmSetup"));
+  open_by(program, program.button(QStringLiteral("C_MessageSetup")));
+  auto* line = program.stage.top()->findChild<QLineEdit*>(QStringLiteral("E_ReceiptHeader(1)"));
+  auto* paper = program.stage.top()->findChild<QWidget*>(QStringLiteral("T_Hraw2"));
+  line->setFocus(Qt::OtherFocusReason);
+  line->clear();
+  settle();
+  QKeyEvent letter{QEvent::KeyPress, Qt::Key_X, Qt::NoModifier, QStringLiteral("x")};
+  QKeyEvent back{QEvent::KeyPress, Qt::Key_Backspace, Qt::NoModifier, QStringLiteral("\b")};
+  for (auto _ : state) {
+    PaintWatch painted{*paper};
+    QApplication::sendEvent(line, line->text().isEmpty() ? &letter : &back);
+    painted.wait();
+  }
+  if (!paper->property("text").toString().startsWith(line->text())) state.SkipWithError("the paper did not follow");
+}
+
 /// A call that moves nothing, beside the screens.
 void link_call_beside(benchmark::State& state, Program& program) {
   program.stand_on({});
@@ -112,6 +134,8 @@ void measure(const QString& name, const std::function<void(benchmark::State&)>& 
 
 void measure_all(Program& program) {
   measure(QStringLiteral("save a department"), [&](benchmark::State& state) { save_department(state, program); });
+  measure(QStringLiteral("type into a receipt header"),
+          [&](benchmark::State& state) { type_into_header(state, program); });
   measure(QStringLiteral("open FrmLanguage"), [&](benchmark::State& state) { open_language_choice(state, program); });
   measure(QStringLiteral("open FrmPrincipale (asks the register)"),
           [&](benchmark::State& state) { open_screen(state, program, {}, QStringLiteral("C_Z320")); });

@@ -4,6 +4,7 @@
 
 #include <QTabBar>
 
+#include "captions/parent_of_pages.h"
 #include "core/global.h"
 #include "core/register_text.h"
 #include "core/shell.h"
@@ -36,7 +37,7 @@ FrmCaptionSetting::FrmCaptionSetting()
     : Screen{QStringLiteral("FrmCaptionSetting")},
       frame_{*this, ScreenFrame::Corner::none},
       Tab_Print{new QTabWidget{this}},
-      receipt_{new ReceiptPage{frame_.captions, [this] { carica_all_caption(); }, Tab_Print}},
+      receipt_{new ReceiptPage{frame_.captions, [this] { carica_all_caption(); }, parent_of_pages(*Tab_Print)}},
       short_captions_{new ShortCaptionPage{frame_.captions, [this] { carica_all_caption(); },
                                            [this](bool on) {
                                              // The labels of the other lines go with the editing of a short caption.
@@ -44,8 +45,8 @@ FrmCaptionSetting::FrmCaptionSetting()
                                                label->setEnabled(on);
                                              }
                                            },
-                                           Tab_Print}},
-      messages_{new MessagePage{frame_.captions, Tab_Print}} {
+                                           parent_of_pages(*Tab_Print)}},
+      messages_{new MessagePage{frame_.captions, parent_of_pages(*Tab_Print)}} {
   frame_.captions.add(*this, Key::FRM_CAPTION_SETTING_MODE_TITLE, "Caption Setup Mode");
   Tab_Print->setObjectName(QStringLiteral("Tab_Print"));
   Tab_Print->tabBar()->setFocusPolicy(Qt::StrongFocus);

@@ -5,6 +5,7 @@
 #include <QGridLayout>
 #include <QTabBar>
 
+#include "captions/parent_of_pages.h"
 #include "widgets/controls.h"
 
 namespace ecr {
@@ -51,11 +52,11 @@ ReceiptPage::ReceiptPage(Captions& captions, std::function<void()> changed, QWid
 
 QWidget* ReceiptPage::make_group(LineGroup group) {
   const LineGroupRow& about = row_of(group);
-  auto* scroll = new QScrollArea;
+  auto* scroll = new QScrollArea{parent_of_pages(*Tab_Invoice)};
   scroll->setFocusPolicy(Qt::NoFocus);
   scroll->setFrameShape(QFrame::NoFrame);
   scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  auto* page = new QWidget;
+  auto* page = new QWidget{scroll->viewport()};
   auto* grid = new QGridLayout{page};
   grid->setVerticalSpacing(6);
   grid->setHorizontalSpacing(12);

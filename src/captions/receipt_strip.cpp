@@ -30,7 +30,7 @@ ReceiptStrip::ReceiptStrip(QWidget* parent) : QScrollArea{parent} {
   setFocusPolicy(Qt::NoFocus);
   setFrameShape(QFrame::NoFrame);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  auto* desk = new QWidget{this};
+  auto* desk = new QWidget{viewport()};
   auto* slips = new QVBoxLayout{desk};
   slips->setContentsMargins(0, 0, 0, 0);
   slips->setSpacing(6);
