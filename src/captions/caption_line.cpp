@@ -49,7 +49,18 @@ void CaptionLine::focusInEvent(QFocusEvent* event) {
 void CaptionLine::mousePressEvent(QMouseEvent* event) {
   Field::mousePressEvent(event);
   // The press that brought the focus leaves the cursor at the end; the next one places it.
-  if (std::exchange(press_enters_, false)) end(false);
+  press_entered_ = std::exchange(press_enters_, false);
+  if (press_entered_) end(false);
+}
+
+void CaptionLine::mouseMoveEvent(QMouseEvent* event) {
+  // Else a hand that is not quite still would select all from there to the end.
+  if (!press_entered_) Field::mouseMoveEvent(event);
+}
+
+void CaptionLine::mouseReleaseEvent(QMouseEvent* event) {
+  press_entered_ = false;
+  Field::mouseReleaseEvent(event);
 }
 
 void CaptionLine::keyPressEvent(QKeyEvent* event) {

@@ -31,6 +31,8 @@ class CaptionLine : public Field {
  protected:
   void focusInEvent(QFocusEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
 
@@ -42,7 +44,8 @@ class CaptionLine : public Field {
   std::function<bool()> is_on_;
   std::string log_prefix_;
   std::function<void()> line_entered_;
-  bool press_enters_ = false;
+  bool press_enters_ = false;   ///< the focus has come by a press that is on its way
+  bool press_entered_ = false;  ///< the button that is held down is the one that entered the line
 };
 
 /// Lets Ctrl+D switch the box while a field of the page keeps the focus, and says so beside it.

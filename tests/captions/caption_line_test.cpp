@@ -4,6 +4,7 @@
 #include <QInputMethodEvent>
 #include <QTabWidget>
 #include <QTest>
+#include <QWindow>
 
 #include "core/global.h"
 #include "support_qt/screen_test.h"
@@ -59,9 +60,21 @@ TEST_F(CaptionLineTest, ThePressThatEntersLeavesTheCursorAtTheEndAndTheNextOnePl
   EXPECT_EQ(line().text(), QStringLiteral("Corner Oven"));
   EXPECT_EQ(line().cursorPosition(), 11);
   EXPECT_FALSE(line().hasSelectedText());
-  QTest::qWait(0);
   click_at(line(), {12, line().height() / 2});
   EXPECT_LT(line().cursorPosition(), 3);
+}
+
+TEST_F(CaptionLineTest, AHandThatIsNotQuiteStillSelectsNothingAsItEnters) {
+  line().show_text(QStringLiteral("Corner Oven             "));
+  const QPoint place = line().mapTo(&stage, QPoint{30, line().height() / 2});
+  QWindow* window = stage.windowHandle();
+  QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, place);
+  QTest::mouseMove(window, place + QPoint{3, 0});
+  QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, place + QPoint{3, 0});
+  let_screens_settle();
+  ASSERT_TRUE(line().hasFocus());
+  EXPECT_FALSE(line().hasSelectedText());
+  EXPECT_EQ(line().cursorPosition(), 11);
 }
 
 TEST_F(CaptionLineTest, LeavingFillsTheLineTo24) {
