@@ -6,7 +6,10 @@
 #include <QTabBar>
 
 #include "captions/parent_of_pages.h"
+#include "core/global.h"
 #include "widgets/controls.h"
+#include "widgets/look.h"
+#include "widgets/screen_text.h"
 
 namespace ecr {
 namespace {
@@ -83,13 +86,23 @@ QWidget* ReceiptPage::make_group(LineGroup group) {
     lines_[index_of(group)].push_back(line);
     labels_[index_of(group)].push_back(label);
   }
-  grid->setRowStretch(about.lines, 1);
+  if (group == LineGroup::extra_invoice) {
+    QLabel* hint = make_label(QStringLiteral("L_NoZ300"), page);
+    make_hint(*hint);
+    hint->setWordWrap(true);
+    hint->setVisible(Global::EcrModel == Global::model_z300);
+    grid->addWidget(hint, about.lines, 1);
+    L_NoZ300 = hint;
+  }
+  grid->setRowStretch(about.lines + 1, 1);
   scroll->setWidget(page);
   scroll->setWidgetResizable(true);
   return scroll;
 }
 
 void ReceiptPage::carica_messaggi() {
+  // A Z300 keeps the invoice lines that it has; the fields can be written all the same.
+  set_caption(*L_NoZ300, screen_text(MsgOptionNoZ300));
   Tab_Invoice->setAccessibleName(accessibleName());
   for (std::size_t i = 0; i < line_groups.size(); ++i) {
     const LineGroupRow& about = line_groups[i];

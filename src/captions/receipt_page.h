@@ -41,6 +41,7 @@ class ReceiptPage : public QWidget {
   QTabWidget* Tab_Invoice;
   QCheckBox* Chk_Double;
   ReceiptStrip* strip_;
+  QLabel* L_NoZ300 = nullptr;  ///< tells on a Z300 that the invoice lines are not its own to change
   std::array<std::vector<CaptionLine*>, line_groups.size()> lines_;
   std::array<std::vector<QLabel*>, line_groups.size()> labels_;
 };

@@ -25,15 +25,14 @@ ShortCaptionPage::ShortCaptionPage(Captions& captions, std::function<void()> cha
       changed_{std::move(changed)},
       enabled_{std::move(enabled)},
       FG_Caption{new RecordGrid{QStringLiteral("FG_Caption"), this}},
-      L_Desc{nullptr},
       E_Valore{new CaptionLine{QStringLiteral("E_Valore"), caption_width, this}},
+      L_Desc{make_label(QStringLiteral("L_Desc"), this, E_Valore)},
       ChK_Double2{new QCheckBox{this}},
       L_Preview2{make_label(QStringLiteral("L_Preview2"), this)},
       slip_{new PaperSlip{this}},
       E_ValorePrev{slip_->add_row(QStringLiteral("E_ValorePrev"), caption_width)},
       C_Apply{new CommandButton{QStringLiteral("C_Apply"), this}},
       C_Cancel{new CommandButton{QStringLiteral("C_Cancel"), this}} {
-  L_Desc = make_label(QStringLiteral("L_Desc"), this, E_Valore);
   ChK_Double2->setObjectName(QStringLiteral("ChK_Double2"));
   captions.add(*L_Desc, Key::FRM_CAPTION_L_DESC, "Description");
   captions.add(*ChK_Double2, Key::FRM_CAPTION_CHK_DOUBLE, "Double width");

@@ -46,8 +46,8 @@ class ShortCaptionPage : public QWidget {
   std::function<void()> changed_;
   std::function<void(bool)> enabled_;
   RecordGrid* FG_Caption;
-  QLabel* L_Desc;
   CaptionLine* E_Valore;
+  QLabel* L_Desc;
   QCheckBox* ChK_Double2;
   QLabel* L_Preview2;
   PaperSlip* slip_;

@@ -33,7 +33,7 @@ std::size_t tagged_line(std::string_view line, std::string_view head, std::strin
   if (!is_digit(tens) || !is_digit(units) || !line.substr(head.size() + 2).starts_with(tail)) {
     return std::string_view::npos;
   }
-  const auto number = static_cast<std::size_t>((tens - '0') * 10 + (units - '0'));
+  const std::size_t number = static_cast<std::size_t>(tens - '0') * 10 + static_cast<std::size_t>(units - '0');
   return number >= 1 && number <= lines ? number - 1 : std::string_view::npos;
 }
 

@@ -141,6 +141,17 @@ TEST_F(FrmCaptionSettingTest, ASaveOnTheZ320WritesTheInvoiceLines) {
   EXPECT_EQ(image_file().substr(invoice_at + 4 * 24, 24), "Signature:              ");
 }
 
+TEST_F(FrmCaptionSettingTest, OnlyTheZ300TellsThatItKeepsItsInvoiceLines) {
+  for (const auto model : {Global::model_z300, Global::model_z320}) {
+    start_session(model);
+    open_editor();
+    tabs("Tab_Invoice").setCurrentIndex(2);
+    EXPECT_EQ(control("L_NoZ300").isVisible(), model == Global::model_z300);
+    EXPECT_EQ(caption("L_NoZ300"), QStringLiteral("Option not supported on ECRZ300"));
+    stage.top()->unload();
+  }
+}
+
 TEST_F(FrmCaptionSettingTest, EachLineIsSavedInItsPlace) {
   open_editor();
   int tab = 0;

@@ -11,6 +11,7 @@ expect-bytes Dati/PRG_MODE.BIN 4115 437573746F6D65723A20202020202020202020202020
 tab Tab_Invoice 2
 expect-visible E_ExtraInvoice(0) yes
 expect-enabled E_ExtraInvoice(0) yes
+expect-visible L_NoZ300 yes
 paste E_ExtraInvoice(0) "Guest:"
 paste E_ExtraInvoice(4) "Thank you"
 tab Tab_Invoice 0

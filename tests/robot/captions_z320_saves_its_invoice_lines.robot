@@ -7,6 +7,7 @@ box plain * Yes
 click C_MessageSetup
 
 tab Tab_Invoice 2
+expect-visible L_NoZ300 no
 expect E_ExtraInvoice(0) "Guest:                  "
 paste E_ExtraInvoice(0) "Customer:"
 click C_Salva
