@@ -90,7 +90,9 @@ void CaptionLine::keyPressEvent(QKeyEvent* event) {
 }
 
 void CaptionLine::inputMethodEvent(QInputMethodEvent* event) {
-  if (event->commitString().isEmpty() || !prints_double()) {
+  bool marks = false;
+  if (!event->commitString().isEmpty()) guarded(log_prefix_, [&] { marks = prints_double(); });
+  if (!marks) {
     Field::inputMethodEvent(event);
     return;
   }

@@ -6,6 +6,8 @@
 #include <QTest>
 #include <QWindow>
 
+#include "captions/line_groups.h"
+#include "core/fault.h"
 #include "core/global.h"
 #include "support_qt/screen_test.h"
 
@@ -244,6 +246,27 @@ TEST_F(CaptionLineTest, WhatIsComposedOfSeveralKeysIsMarkedToo) {
   line().setFocus(Qt::OtherFocusReason);
   QApplication::sendEvent(&line(), &composed);
   EXPECT_EQ(line().text(), QStringLiteral("A·ê·têt"));
+}
+
+TEST_F(CaptionLineTest, AFaultInAKeyIsLoggedUnderTheHandlersNameAndTheKeyGoesOn) {
+  line().print_double_while([]() -> bool { throw FaultError{FaultCode::overflow}; }, "E_ReceiptHeader_KeyPress ");
+  entered(QStringLiteral("A"));
+  type(QStringLiteral("B"));
+  EXPECT_EQ(line().text(), QStringLiteral("AB"));
+  QInputMethodEvent composed;
+  composed.setCommitString(QStringLiteral("ê"));
+  QApplication::sendEvent(&line(), &composed);
+  EXPECT_EQ(line().text(), QStringLiteral("ABê"));
+  EXPECT_EQ(log(), std::vector<std::string>(2, "E_ReceiptHeader_KeyPress Overflow"));
+}
+
+TEST(LineGroups, EachHandlerHasItsNameForTheLog) {
+  const std::pair<LineGroup, const char*> names[] = {{LineGroup::header, "E_ReceiptHeader_KeyPress "},
+                                                     {LineGroup::footer, "E_ReceiptFooter_KeyPress "},
+                                                     {LineGroup::extra_invoice, "E_ExtraInvoice_KeyPress "},
+                                                     {LineGroup::other, "E_Other_KeyPress "}};
+  for (const auto& [group, name] : names) EXPECT_STREQ(row_of(group).key_prefix, name);
+  EXPECT_EQ(row_of(LineGroup::abbreviations).key_prefix, nullptr);
 }
 
 TEST_F(CaptionLineTest, TheSwitchCanBePressedWithoutLeavingTheLine) {
