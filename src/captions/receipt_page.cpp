@@ -15,6 +15,7 @@ namespace ecr {
 namespace {
 
 constexpr int line_width = 24;
+constexpr int widest_label = 220;
 
 /// The header is printed anew only while one of the tabs up to this one is in front.
 constexpr int last_tab_of_the_header = 2;
@@ -81,6 +82,8 @@ QWidget* ReceiptPage::make_group(LineGroup group) {
     QLabel* label = make_label(member_name(about.label_name, i), page, line);
     label->setWordWrap(true);
     label->setMinimumWidth(group == LineGroup::other ? 165 : 0);
+    // A description of any length leaves its field in sight.
+    label->setMaximumSize(widest_label, 3 * label->fontMetrics().lineSpacing());
     grid->addWidget(label, i, 0);
     grid->addWidget(line, i, 1);
     lines_[index_of(group)].push_back(line);

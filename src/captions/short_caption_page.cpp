@@ -62,7 +62,9 @@ void ShortCaptionPage::lay_out() {
   E_Valore->setFont(register_face());
   L_Desc->setWordWrap(true);
   L_Desc->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
-  L_Desc->setMinimumHeight(2 * L_Desc->fontMetrics().lineSpacing());
+  // A definition of any length leaves the rest in its place.
+  L_Desc->setMinimumSize(1, 2 * L_Desc->fontMetrics().lineSpacing());
+  L_Desc->setMaximumHeight(4 * L_Desc->fontMetrics().lineSpacing());
 
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(C_Apply);

@@ -368,6 +368,21 @@ TEST_F(FrmCaptionSettingTest, DefinitionsOfAnyBytesAndLengthDoNoHarm) {
   EXPECT_EQ(top(), QStringLiteral("FrmCaptionSetting"));
 }
 
+TEST_F(FrmCaptionSettingTest, ALabelOfAnyLengthLeavesItsFieldInSight) {
+  const std::string one_word(20'000, 'x');
+  std::string words;
+  while (words.size() < 20'000) words += "word ";
+  write("Setup/DescCaption.ini", std::string(78, '\n') + one_word + "\n" + words + "\nshort\n");
+  open_editor();
+  tabs("Tab_Invoice").setCurrentIndex(3);
+  let_screens_settle();
+  EXPECT_EQ(caption("L_Other(0)").size(), 20'000);
+  for (const char* name : {"E_Other(0)", "E_Other(1)", "E_Other(2)"}) {
+    EXPECT_FALSE(control(name).visibleRegion().isEmpty()) << name;
+    EXPECT_GT(control(name).width(), 200) << name;
+  }
+}
+
 TEST_F(FrmCaptionSettingTest, SendTakesTheFileAndNotTheScreen) {
   link().be_a_register();
   open_editor();

@@ -76,6 +76,22 @@ TEST_F(ShortCaptionTest, AnAmpersandOfADefinitionMarksNoLetter) {
   EXPECT_EQ(value().accessibleName(), QStringLiteral("Beer & wine"));
 }
 
+TEST_F(ShortCaptionTest, ADefinitionOfAnyLengthLeavesTheRestInItsPlace) {
+  stage.top()->unload();
+  write("Setup/DescCaption.ini", std::string(20'000, 'x'));
+  open("FrmCaptionSetting");
+  control<QTabWidget>("Tab_Print").setCurrentIndex(1);
+  let_screens_settle();
+  const QSize before = stage.size();
+  click_row(grid(), 1);
+  let_screens_settle();
+  EXPECT_EQ(stage.size(), before);
+  EXPECT_GT(grid().width(), 300);
+  for (const char* name : {"E_Valore", "C_Apply", "C_Cancel"}) {
+    EXPECT_FALSE(control(name).visibleRegion().isEmpty()) << name;
+  }
+}
+
 TEST_F(ShortCaptionTest, ApplyPutsTheTextIntoTheGridAndEndsTheEditing) {
   click_row(grid(), 2);
   value().setFocus(Qt::OtherFocusReason);
