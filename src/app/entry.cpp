@@ -35,6 +35,7 @@
 #include "keyboard/frm_advanced_setting.h"
 #include "lang/language.h"
 #include "logo/frm_set_logo.h"
+#include "reports/frm_report_export.h"
 #include "screens/frm_pres.h"
 #include "screens/frm_program_mode.h"
 #include "screens/frm_setting_mode.h"
@@ -112,6 +113,7 @@ void register_screens() {
   register_one<FrmPluPageProgram>("FrmPluPageProgram");
   register_one<FrmPopUpPluList>("FrmPopUpPluList");
   register_one<FrmCaptionSetting>("FrmCaptionSetting");
+  register_one<FrmReportExport>("FrmReportExport");
 }
 
 void Main(Stage& stage, const QString& application_folder, const QString& command_line) {

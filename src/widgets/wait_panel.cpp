@@ -37,7 +37,23 @@ bool is_input(const QEvent& event) {
   }
 }
 
+WaitSteps* current_steps = nullptr;
+
 }  // namespace
+
+WaitSteps::WaitSteps(int steps) : steps_{steps} {
+  elapsed_.start();
+  current_steps = this;
+}
+
+WaitSteps::~WaitSteps() {
+  current_steps = nullptr;
+}
+
+void WaitSteps::next(const QString& what) {
+  ++begun_;
+  what_ = what;
+}
 
 WaitPanel::WaitPanel(QWidget& window, const QString& what, double seconds) : QWidget{&window}, seconds_{seconds} {
   setObjectName(QStringLiteral("WaitPanel"));
@@ -57,6 +73,15 @@ WaitPanel::WaitPanel(QWidget& window, const QString& what, double seconds) : QWi
   rest_->setVisible(seconds > 0);
   // A bar without an end runs to and fro.
   bar_->setRange(0, seconds > 0 ? static_cast<int>(seconds * 1000) : 0);
+  int shown_after = shown_after_ms;
+  if (const WaitSteps* steps = current_steps; steps != nullptr && seconds <= 0) {
+    if (!steps->what_.isEmpty()) what_->setText(steps->what_);
+    bar_->setRange(0, steps->steps_);
+    bar_->setValue(steps->begun_ - 1);
+    rest_->setText(tr("%1 of %2").arg(steps->begun_).arg(steps->steps_));
+    rest_->setVisible(true);
+    shown_after = static_cast<int>(std::max<qint64>(0, shown_after_ms - steps->elapsed_.elapsed()));
+  }
   auto* inside = new QVBoxLayout{card};
   inside->setContentsMargins(28, 24, 28, 24);
   inside->setSpacing(14);
@@ -69,7 +94,7 @@ WaitPanel::WaitPanel(QWidget& window, const QString& what, double seconds) : QWi
   elapsed_.start();
   connect(&tick_, &QTimer::timeout, this, [this] { show_progress(); });
   tick_.start(50);
-  QTimer::singleShot(shown_after_ms, this, [this] {
+  QTimer::singleShot(shown_after, this, [this] {
     show_progress();
     show();
     raise();

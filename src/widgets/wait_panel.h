@@ -12,6 +12,26 @@ class QProgressBar;
 
 namespace ecr {
 
+/// While such an object lives, the waits inside of it are steps of one piece of work: their panels tell how far it is,
+/// and stay away or on show together. One at a time.
+class WaitSteps {
+ public:
+  explicit WaitSteps(int steps);
+  WaitSteps(const WaitSteps&) = delete;
+  WaitSteps& operator=(const WaitSteps&) = delete;
+  ~WaitSteps();
+
+  /// The next step begins. `what` names it in place of what its wait says; empty leaves that.
+  void next(const QString& what);
+
+ private:
+  friend class WaitPanel;
+  int steps_;
+  int begun_ = 0;
+  QString what_;
+  QElapsedTimer elapsed_;
+};
+
 class WaitPanel : public QWidget {
   Q_OBJECT
 

@@ -392,6 +392,48 @@ TEST_F(QtShellTest, AWaitOfUnknownLengthRunsToAndFro) {
   EXPECT_EQ(panel(), nullptr);
 }
 
+TEST_F(QtShellTest, TheStepsOfOneWorkTellHowFarItIs) {
+  struct Seen {
+    QString what;
+    QString rest;
+    int value;
+    int most;
+    qint64 after;
+  };
+  std::vector<Seen> seen;
+  {
+    WaitSteps steps{3};
+    for (const char* what : {"All items", "", "Hours"}) {
+      steps.next(QString::fromLatin1(what));
+      QElapsedTimer since_start;
+      since_start.start();
+      HeldJob job;
+      QTimer timer;
+      QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
+        if (!panel_is_up()) return;
+        const auto* bar = panel()->findChild<QProgressBar*>(QStringLiteral("WaitBar"));
+        seen.push_back({panel()->findChild<QLabel*>(QStringLiteral("WaitWhat"))->text(),
+                        panel()->findChild<QLabel*>(QStringLiteral("WaitRest"))->text(), bar->value(), bar->maximum(),
+                        since_start.elapsed()});
+        timer.stop();
+        job.release();
+      });
+      timer.start(1);
+      real.run_beside("Reading", Waiting::modal, [&job] { job(); });
+    }
+  }
+  ASSERT_EQ(seen.size(), 3U);
+  EXPECT_EQ(seen[0].what, QStringLiteral("All items"));
+  EXPECT_EQ(seen[1].what, QStringLiteral("Reading"));
+  EXPECT_EQ(seen[2].what, QStringLiteral("Hours"));
+  EXPECT_EQ(seen[0].rest, QStringLiteral("1 of 3"));
+  EXPECT_EQ(seen[2].rest, QStringLiteral("3 of 3"));
+  EXPECT_EQ(seen[2].value, 2);
+  EXPECT_EQ(seen[2].most, 3);
+  EXPECT_GE(seen[0].after, WaitPanel::shown_after_ms - 5);
+  EXPECT_LT(seen[1].after, WaitPanel::shown_after_ms) << "once the panel is up it comes up again at once";
+}
+
 TEST_F(QtShellTest, ThePanelCoversTheWholeWindowAlsoWhenThatGrows) {
   QRect before;
   QRect after;

@@ -1,0 +1,47 @@
+#include "reports/export_run.h"
+
+#include <array>
+#include <charconv>
+#include <string>
+
+#include "core/clock.h"
+#include "core/run_log.h"
+#include "link/error_tables.h"
+#include "link/report_fetch.h"
+#include "reports/export_report.h"
+
+namespace ecr {
+namespace {
+
+constexpr double seconds_of_a_day = 86400;
+
+/// Seconds in their shortest form, with a point whatever the system's own sign is.
+std::string seconds_text(double seconds) {
+  constexpr int digits = 7;
+  std::array<char, 32> text{};
+  const auto end = std::to_chars(text.data(), text.data() + text.size(), seconds, std::chars_format::general, digits);
+  return {text.data(), end.ptr};
+}
+
+void export_one(std::uint8_t number) {
+  const double begun = now().second_of_day;
+  if (!Receive_ReportEcr(number)) return;
+  export_ReportEcr(number);
+  double passed = now().second_of_day - begun;
+  if (passed < 0) passed += seconds_of_a_day;
+  memo_log("Time for download report " + std::to_string(number) + " is:" + seconds_text(passed));
+}
+
+}  // namespace
+
+void export_reports(const std::vector<std::uint8_t>& numbers, const std::function<void(std::uint8_t)>& begins) {
+  for (const std::uint8_t number : numbers) {
+    begins(number);
+    export_one(number);
+  }
+  // Dealers look at the release that is left behind in this way.
+  begins(FileNumber::release);
+  export_one(FileNumber::release);
+}
+
+}  // namespace ecr

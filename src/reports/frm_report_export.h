@@ -1,0 +1,42 @@
+#pragma once
+// Which reports are read from the register, and the run that turns them into CSV files.
+
+#include <array>
+#include <cstdint>
+
+#include <QCheckBox>
+
+#include "widgets/field.h"
+#include "widgets/screen.h"
+#include "widgets/screen_frame.h"
+
+namespace ecr {
+
+class FrmReportExport : public Screen {
+  Q_OBJECT
+
+ public:
+  FrmReportExport();
+
+  void load() override;
+  [[nodiscard]] QWidget* first_focus() override { return C_Annulla; }
+
+ private:
+  void save() const;
+  void run_export();
+  [[nodiscard]] QCheckBox* box(std::uint8_t number) const;
+
+  ScreenFrame frame_;
+  Captions captions_;
+  // Members have the report numbers, from 3 on.
+  std::array<QCheckBox*, 19> Chk_Report{};
+  QLabel* L_MPS_Level;
+  Field* Txt_MPS_Min;
+  QLabel* L_MPS_Min;
+  CommandButton* C_Annulla;
+  CommandButton* C_View;
+  CommandButton* C_Salva;
+  CommandButton* C_Export;
+};
+
+}  // namespace ecr
