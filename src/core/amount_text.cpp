@@ -1,8 +1,11 @@
 #include "core/amount_text.h"
 
+#include <algorithm>
+
 #include "core/codecs.h"
 #include "core/decimal.h"
 #include "core/global.h"
+#include "core/packed_digits.h"
 #include "core/run_log.h"
 
 namespace ecr {
@@ -10,10 +13,27 @@ namespace {
 
 constexpr int quantity_decimals = 4;
 constexpr std::size_t amount_bytes = 8;
+constexpr int most_decimals = 3;
 
 /// 10^(2n-1) for a field of n bytes: the largest stored number that is not negative.
 Decimal sign_weight(std::size_t bytes) {
   return Decimal{1}.scaled(static_cast<int>(2 * bytes) - 1);
+}
+
+/// Any field whatever, digit by digit.
+std::string stock_text(std::span<const std::uint8_t> field) {
+  std::string text;
+  guarded("Bcds_To_Stock: ", [&] {
+    std::string digits = bcds_to_number(field);
+    const bool negative = !field.empty() && Decimal::from_text(digits) > sign_weight(field.size());
+    if (negative) {
+      digits.erase(0, 1);
+      text = "-";
+    }
+    text += field.size() == amount_bytes ? Amount_Text(digits, Global::DecimalPoint)
+                                         : Decimal::from_text(digits).scaled(-quantity_decimals).text();
+  });
+  return text;
 }
 
 }  // namespace
@@ -27,17 +47,37 @@ std::string Amount_Text(std::string_view value, int decimals) {
 
 std::string Bcds_To_Stock(std::span<const std::uint8_t> field) {
   std::string text;
-  guarded("Bcds_To_Stock: ", [&] {
-    std::string digits = bcds_to_number(field);
-    const bool negative = !field.empty() && Decimal::from_text(digits) > sign_weight(field.size());
-    if (negative) {
-      digits.erase(0, 1);
-      text = "-";
-    }
-    text += field.size() == amount_bytes ? Amount_Text(digits, Global::DecimalPoint)
-                                         : Decimal::from_text(digits).scaled(-quantity_decimals).text();
-  });
+  append_stock(text, field);
   return text;
+}
+
+void append_stock(std::string& out, std::span<const std::uint8_t> field) {
+  // Whatever is out of the ordinary goes the long way, where faults are told too.
+  const bool is_amount = field.size() == amount_bytes;
+  const std::size_t decimals = is_amount ? Global::DecimalPoint : std::size_t{quantity_decimals};
+  PackedDigits packed;
+  if ((is_amount && decimals > most_decimals) || 2 * field.size() < decimals + 2 || !packed.read(field)) {
+    out += stock_text(field);
+    return;
+  }
+  const std::string_view digits = packed.all();
+  std::size_t first = packed.first_significant();
+  const bool negative = first == 0 && !packed.is_one_and_zeros();
+  if (negative) {
+    out += '-';
+    // The digit text of a negative amount goes through as it stands where it has no decimals.
+    first = decimals == 0 ? 1 : std::min(digits.find_first_not_of('0', 1), digits.size());
+  }
+  const std::size_t point = digits.size() - decimals;
+  first = std::min(first, point - 1);
+  out += digits.substr(first, point - first);
+  std::size_t end = digits.size();
+  if (!is_amount) {
+    while (end > point && digits[end - 1] == '0') --end;
+  }
+  if (end == point) return;
+  out += '.';
+  out += digits.substr(point, end - point);
 }
 
 void Stock_To_Bcds(std::string_view text, std::span<std::uint8_t> field) {

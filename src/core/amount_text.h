@@ -19,6 +19,9 @@ namespace ecr {
 /// A signed field as text. Quantities come in their shortest form.
 [[nodiscard]] std::string Bcds_To_Stock(std::span<const std::uint8_t> field);
 
+/// The same behind what stands in `out`, without a text of its own for each field.
+void append_stock(std::string& out, std::span<const std::uint8_t> field);
+
 /// A quantity as text into a signed field. An empty text counts as 0; for a text that is no number the field stays as
 /// it is and the log tells.
 void Stock_To_Bcds(std::string_view text, std::span<std::uint8_t> field);

@@ -5,6 +5,7 @@
 #include <cstddef>
 
 #include "core/fault.h"
+#include "core/packed_digits.h"
 #include "core/run_log.h"
 #include "core/text.h"
 
@@ -18,9 +19,8 @@ constexpr int units_of(std::uint8_t byte) {
   return byte & 0x0F;
 }
 
-}  // namespace
-
-std::string bcds_to_number(std::span<const std::uint8_t> field) {
+/// Any field whatever, byte by byte.
+std::string number_text(std::span<const std::uint8_t> field) {
   // The digit pairs of the bytes, highest first, are the number: nothing has to be added up.
   std::string text;
   guarded("bcds_to_number ", [&] {
@@ -42,6 +42,24 @@ std::string bcds_to_number(std::span<const std::uint8_t> field) {
   if (text.empty()) return "0";
   std::reverse(text.begin(), text.end());
   return text;
+}
+
+}  // namespace
+
+std::string bcds_to_number(std::span<const std::uint8_t> field) {
+  std::string text;
+  append_number(text, field);
+  return text;
+}
+
+void append_number(std::string& out, std::span<const std::uint8_t> field) {
+  PackedDigits packed;
+  if (!packed.read(field)) {
+    out += number_text(field);
+    return;
+  }
+  const std::string_view digits = packed.all();
+  out += digits.substr(std::min(packed.first_significant(), digits.size() - 1));
 }
 
 std::string bcds_to_number_str(std::span<const std::uint8_t> field) {

@@ -19,6 +19,9 @@ namespace ecr {
 /// above 9 the walk ends and the text of the bytes before it is returned.
 [[nodiscard]] std::string bcds_to_number(std::span<const std::uint8_t> field);
 
+/// The same behind what stands in `out`, without a text of its own for each field.
+void append_number(std::string& out, std::span<const std::uint8_t> field);
+
 /// The same walk over bytes read leniently (0x1A counts as 1), with each byte's weight formed in double precision
 /// before it is added: fields of more than ten bytes can differ in their low digits. An empty field gives "0".
 [[nodiscard]] std::string bcds_to_number_str(std::span<const std::uint8_t> field);

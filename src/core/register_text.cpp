@@ -88,10 +88,14 @@ std::string sostituzione_to_ecr(std::string_view bytes) {
 }
 
 std::string sostituzione_from_ecr(std::string_view register_bytes) {
-  std::string result(register_bytes.size(), '\0');
-  std::transform(register_bytes.begin(), register_bytes.end(), result.begin(),
-                 [](char c) { return static_cast<char>(CharFromEcr[static_cast<unsigned char>(c)]); });
+  std::string result{register_bytes};
+  sostituzione_from_ecr(std::span<char>{result});
   return result;
+}
+
+void sostituzione_from_ecr(std::span<char> text) {
+  std::transform(text.begin(), text.end(), text.begin(),
+                 [](char c) { return static_cast<char>(CharFromEcr[static_cast<unsigned char>(c)]); });
 }
 
 }  // namespace ecr

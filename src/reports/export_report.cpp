@@ -66,16 +66,17 @@ void append_journal_line(std::string& out, std::span<const std::uint8_t> field, 
   std::array<char, journal_line_width> line{};
   std::memcpy(line.data(), field.data(), line.size());
   blank_out(line, mark);
-  out += sostituzione_from_ecr({line.data(), line.size()});
+  sostituzione_from_ecr(std::span<char>{line});
+  out.append(line.data(), line.size());
 }
 
 void append_field(std::string& out, ColumnKind kind, std::span<const std::uint8_t> field) {
   switch (kind) {
     case ColumnKind::value:
-      out += Bcds_To_Stock(field);
+      append_stock(out, field);
       break;
     case ColumnKind::count:
-      out += bcds_to_number(field);
+      append_number(out, field);
       break;
     case ColumnKind::byte:
       out += std::to_string(field[0]);

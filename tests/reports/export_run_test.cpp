@@ -1,0 +1,78 @@
+#include "reports/export_run.h"
+
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+#include "report_test.h"
+
+namespace ecr::test {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+class ExportRun : public ReportTest {
+ protected:
+  ExportRun() { Global::ComPort = 4; }
+
+  void run(const std::vector<std::uint8_t>& numbers) {
+    export_reports(numbers, [this](std::uint8_t number) { begun.push_back(number); });
+  }
+
+  std::vector<int> begun;
+};
+
+TEST_F(ExportRun, FetchesAndDecodesEachAndEndsWithTheRelease) {
+  link().deliveries[3] = {"C-I-D.bin", ""};
+  link().deliveries[12] = {"TIME.bin", ""};
+  link().deliveries[22] = {"RELEASE.BIN", "banner"};
+  run({3, 12});
+  EXPECT_EQ(link().calls, (Lines{"send_cmd folder=. direction=0 file=3 timeout=60 port=4",
+                                 "send_cmd folder=. direction=0 file=12 timeout=2 port=4",
+                                 "send_cmd folder=. direction=0 file=22 timeout=60 port=4"}));
+  EXPECT_EQ(begun, (std::vector<int>{3, 12, 22}));
+  EXPECT_TRUE(exists("Report/C-I-D.csv"));
+  EXPECT_TRUE(exists("Report/TIME.csv"));
+  EXPECT_EQ(bytes("Report/RELEASE.csv"), "");
+}
+
+TEST_F(ExportRun, TellsTheLogHowLongEachTook) {
+  link().deliveries[3] = {"C-I-D.bin", ""};
+  link().deliveries[22] = {"RELEASE.BIN", ""};
+  link().after_call = [this] { shell.moment.second_of_day += 1.25; };
+  run({3});
+  EXPECT_EQ(log(), (Lines{"Time for download report 3 is:1.25", "Time for download report 22 is:1.25"}));
+}
+
+TEST_F(ExportRun, CountsOverMidnight) {
+  link().deliveries[22] = {"RELEASE.BIN", ""};
+  shell.moment.second_of_day = 86399.5;
+  link().after_call = [this] { shell.moment.second_of_day = 0.5; };
+  run({});
+  EXPECT_EQ(log(), Lines{"Time for download report 22 is:1"});
+}
+
+TEST_F(ExportRun, PassesOverWhatIsRefusedAndDecodesNothingOld) {
+  write("Dati/C-I-D.bin", "old");
+  link().answers[3] = {1, 4097};
+  link().deliveries[12] = {"TIME.bin", ""};
+  link().answers[22] = {0, 0};
+  run({3, 12});
+  EXPECT_FALSE(exists("Report/C-I-D.csv"));
+  EXPECT_FALSE(exists("Dati/C-I-D.bin"));
+  EXPECT_TRUE(exists("Report/TIME.csv"));
+  const Lines said = log();
+  ASSERT_EQ(said.size(), 3U);
+  EXPECT_TRUE(said[0].starts_with("Receive_ReportEcr error. File 3 Code: 1001 Desc: "));
+  EXPECT_EQ(said[1], "Time for download report 12 is:0");
+  EXPECT_EQ(said[2], "Receive_ReportEcr error using regwire");
+}
+
+TEST_F(ExportRun, LogsAReportThatWasDeliveredUnderAnotherName) {
+  link().deliveries[22] = {"RELEA.BIN", "banner"};
+  run({});
+  EXPECT_EQ(log(), (Lines{"export_ReportEcr. file per report 22 non trovato", "Time for download report 22 is:0"}));
+}
+
+}  // namespace
+}  // namespace ecr::test
