@@ -36,6 +36,7 @@
 #include "lang/language.h"
 #include "logo/frm_set_logo.h"
 #include "reports/frm_report_export.h"
+#include "reports/frm_report_view.h"
 #include "screens/frm_pres.h"
 #include "screens/frm_program_mode.h"
 #include "screens/frm_setting_mode.h"
@@ -114,6 +115,7 @@ void register_screens() {
   register_one<FrmPopUpPluList>("FrmPopUpPluList");
   register_one<FrmCaptionSetting>("FrmCaptionSetting");
   register_one<FrmReportExport>("FrmReportExport");
+  register_one<FrmReportView>("FrmReportView");
 }
 
 void Main(Stage& stage, const QString& application_folder, const QString& command_line) {

@@ -12,6 +12,7 @@
 #include "image/side_files.h"
 #include "link/report_fetch.h"
 #include "reports/export_run.h"
+#include "reports/frm_report_view.h"
 #include "reports/layout.h"
 #include "widgets/look.h"
 #include "widgets/screen_text.h"
@@ -110,6 +111,7 @@ FrmReportExport::FrmReportExport()
   Captions::fix(*C_View, "View");
   C_Export->emphasise();
   C_Annulla->on_click([this] { unload(); });
+  C_View->on_click([this] { open(new FrmReportView); });
   C_Salva->on_click([this] { guarded("FrmReportExport Salva: ", [this] { save(); }); });
   C_Export->on_click([this] { run_export(); });
   auto* bar = new QHBoxLayout;

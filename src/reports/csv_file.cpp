@@ -1,0 +1,55 @@
+#include "reports/csv_file.h"
+
+#include "core/text.h"
+#include "link/error_tables.h"
+#include "reports/layout.h"
+
+namespace ecr {
+namespace {
+
+std::vector<std::string> cells_of(std::string_view line, bool whole_line) {
+  std::vector<std::string> cells;
+  if (whole_line) {
+    cells.emplace_back(line);
+    return cells;
+  }
+  for (std::size_t place = 0; place <= line.size();) {
+    const std::size_t end = std::min(line.find(';', place), line.size());
+    cells.emplace_back(line.substr(place, end - place));
+    place = end + 1;
+  }
+  return cells;
+}
+
+}  // namespace
+
+std::vector<CsvExport> read_csv(std::string_view bytes, bool whole_lines) {
+  // A line ends with CR LF and nothing else: a text may hold either of them alone.
+  constexpr std::string_view line_end = "\r\n";
+  std::vector<CsvExport> exports;
+  std::string_view first;
+  for (std::size_t place = 0; place < bytes.size();) {
+    const std::size_t end = std::min(bytes.find(line_end, place), bytes.size());
+    const std::string_view line = bytes.substr(place, end - place);
+    if (place == 0) first = line;
+    if (line == first) {
+      exports.push_back({cells_of(line, whole_lines), {}});
+    } else {
+      exports.back().rows.push_back(cells_of(line, whole_lines));
+    }
+    place = end + line_end.size();
+  }
+  return exports;
+}
+
+std::uint8_t report_of_file(std::string_view file_name) {
+  const std::string name = lower_ascii(file_name);
+  std::uint8_t found = 0;
+  for (std::uint8_t number = first_report; number <= last_report; ++number) {
+    if (!name.starts_with(lower_ascii(ReportName[number]))) continue;
+    if (found == 0 || ReportName[number].size() > ReportName[found].size()) found = number;
+  }
+  return found;
+}
+
+}  // namespace ecr

@@ -1,0 +1,199 @@
+#include "reports/report_table.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <iterator>
+#include <numeric>
+
+#include "core/decimal.h"
+#include "core/fault.h"
+#include "core/text.h"
+#include "reports/layout.h"
+#include "reports/report_names.h"
+
+namespace ecr {
+namespace {
+
+// From so many columns on a record stands upright.
+constexpr std::size_t upright_from = 20;
+
+bool is_clerk_report(std::uint8_t number) {
+  return number >= 9 && number <= 11;
+}
+
+/// Whether the file is what the report's name promises.
+const ReportLayout* layout_of(std::uint8_t number, const CsvExport& exported) {
+  const ReportLayout* layout = report_layout(number);
+  if (layout == nullptr) return nullptr;
+  std::string header;
+  for (const std::string& name : exported.heading) header += (header.empty() ? "" : ";") + name;
+  return header == report_header(*layout) ? layout : nullptr;
+}
+
+ReportTable upright(std::uint8_t number, const CsvExport& exported) {
+  const std::size_t first = is_clerk_report(number) ? 1 : 0;
+  ReportTable table;
+  table.columns.push_back({"Total"});
+  for (std::size_t i = 0; i < exported.rows.size(); ++i) {
+    const std::string& head = exported.rows[i][0];
+    table.columns.push_back({first == 1                  ? "Clerk " + head
+                             : exported.rows.size() == 1 ? "Value"
+                                                         : std::to_string(i + 1),
+                             true});
+  }
+  for (std::size_t i = first; i < exported.heading.size(); ++i) {
+    std::vector<std::string> row{exported.heading[i]};
+    for (const auto& record : exported.rows) row.push_back(i < record.size() ? record[i] : std::string{});
+    table.rows.push_back(std::move(row));
+  }
+  return table;
+}
+
+/// Puts a column of looked-up texts behind `place` columns.
+template <typename TextOf>
+void insert_column(ReportTable& table, std::size_t place, const char* heading, const TextOf& text_of) {
+  const auto at = [place](auto& list) { return list.begin() + static_cast<std::ptrdiff_t>(place); };
+  table.columns.insert(at(table.columns), {heading});
+  for (std::size_t i = 0; i < table.rows.size(); ++i) {
+    table.rows[i].insert(at(table.rows[i]), text_of(i, table.rows[i]));
+  }
+}
+
+std::string hour_text(std::size_t hour) {
+  return (hour < 10 ? "0" : "") + std::to_string(hour) + ":00";
+}
+
+struct NumberParts {
+  bool valid = false;
+  bool negative = false;
+  std::string_view whole;     ///< without zeros in front
+  std::string_view fraction;  ///< without zeros at the end
+};
+
+NumberParts parts_of(std::string_view text) {
+  NumberParts parts;
+  if (!text.empty() && text.front() == '-') {
+    parts.negative = true;
+    text.remove_prefix(1);
+  }
+  const std::size_t point = std::min(text.find('.'), text.size());
+  parts.whole = text.substr(0, point);
+  if (point < text.size()) parts.fraction = text.substr(point + 1);
+  const auto digits = [](std::string_view part) {
+    return std::all_of(part.begin(), part.end(), [](char c) { return c >= '0' && c <= '9'; });
+  };
+  parts.valid = !parts.whole.empty() && digits(parts.whole) && digits(parts.fraction);
+  parts.whole.remove_prefix(std::min(parts.whole.find_first_not_of('0'), parts.whole.size()));
+  parts.fraction = parts.fraction.substr(0, parts.fraction.find_last_not_of('0') + 1);
+  if (parts.whole.empty() && parts.fraction.empty()) parts.negative = false;
+  return parts;
+}
+
+int sign_of(int comparison) {
+  return comparison < 0 ? -1 : comparison > 0 ? 1 : 0;
+}
+
+}  // namespace
+
+ReportTable report_table(std::uint8_t number, const CsvExport& exported) {
+  const ReportLayout* layout = layout_of(number, exported);
+  if (layout != nullptr && layout->columns.size() >= upright_from) return upright(number, exported);
+  ReportTable table;
+  for (std::size_t i = 0; i < exported.heading.size(); ++i) {
+    ReportTable::Column column{exported.heading[i]};
+    if (layout != nullptr && i < layout->columns.size()) {
+      const ColumnKind kind = layout->columns[i].kind;
+      column.is_number = kind < ColumnKind::text;
+      column.is_summed = kind == ColumnKind::value || kind == ColumnKind::int32 ||
+                         (kind == ColumnKind::count && layout->columns[i].width < 8);
+    }
+    table.columns.push_back(std::move(column));
+  }
+  table.rows = exported.rows;
+  for (auto& row : table.rows) row.resize(table.columns.size());
+  if (layout == nullptr) return table;
+  if (number == 5 || number == 6) {
+    insert_column(table, 2, "Department", [](std::size_t, const auto& row) {
+      return department_name(static_cast<int>(leading_number(row[1])));
+    });
+  } else if (number == 7) {
+    const auto names = item_names();
+    insert_column(table, 1, "Item", [&names](std::size_t, const auto& row) {
+      const auto found = names.find(row[0]);
+      return found == names.end() ? std::string{} : found->second;
+    });
+  } else if (number == 12) {
+    insert_column(table, 0, "Hour", [](std::size_t i, const auto&) { return hour_text(i); });
+  }
+  return table;
+}
+
+int compare_numbers(std::string_view left, std::string_view right) {
+  const NumberParts l = parts_of(left);
+  const NumberParts r = parts_of(right);
+  if (!l.valid || !r.valid) return l.valid ? 1 : r.valid ? -1 : sign_of(left.compare(right));
+  if (l.negative != r.negative) return l.negative ? -1 : 1;
+  int larger =
+      l.whole.size() != r.whole.size() ? (l.whole.size() < r.whole.size() ? -1 : 1) : sign_of(l.whole.compare(r.whole));
+  if (larger == 0) larger = sign_of(l.fraction.compare(r.fraction));
+  return l.negative ? -larger : larger;
+}
+
+bool is_some_number(std::string_view text) {
+  const NumberParts parts = parts_of(text);
+  return parts.valid && !(parts.whole.empty() && parts.fraction.empty());
+}
+
+std::vector<std::size_t> wished_rows(const ReportTable& table, const TableWishes& wishes) {
+  const std::string wanted = lower_ascii(wishes.filter);
+  const auto has_text = [&](const std::vector<std::string>& row) {
+    return wanted.empty() || std::any_of(row.begin(), row.end(), [&](const std::string& cell) {
+             return lower_ascii(cell).find(wanted) != std::string::npos;
+           });
+  };
+  const bool has_sums =
+      std::any_of(table.columns.begin(), table.columns.end(), [](const auto& column) { return column.is_summed; });
+  const auto has_figures = [&](const std::vector<std::string>& row) {
+    if (!wishes.only_with_figures) return true;
+    for (std::size_t i = 0; i < table.columns.size(); ++i) {
+      // An upright table has no sums; its numbers are what counts.
+      if ((has_sums ? table.columns[i].is_summed : table.columns[i].is_number) && is_some_number(row[i])) return true;
+    }
+    return std::none_of(table.columns.begin(), table.columns.end(),
+                        [](const auto& column) { return column.is_number; });
+  };
+  std::vector<std::size_t> rows;
+  for (std::size_t i = 0; i < table.rows.size(); ++i) {
+    if (has_text(table.rows[i]) && has_figures(table.rows[i])) rows.push_back(i);
+  }
+  if (wishes.sorted_by < 0 || static_cast<std::size_t>(wishes.sorted_by) >= table.columns.size()) return rows;
+  const auto column = static_cast<std::size_t>(wishes.sorted_by);
+  const bool by_worth = table.columns[column].is_number;
+  std::stable_sort(rows.begin(), rows.end(), [&](std::size_t left, std::size_t right) {
+    const std::string& l = table.rows[wishes.descending ? right : left][column];
+    const std::string& r = table.rows[wishes.descending ? left : right][column];
+    return by_worth ? compare_numbers(l, r) < 0 : lower_ascii(l) < lower_ascii(r);
+  });
+  return rows;
+}
+
+std::string column_sum(const ReportTable& table, std::size_t column, const std::vector<std::size_t>& rows) {
+  try {
+    Decimal sum;
+    std::size_t decimals = 0;
+    for (const std::size_t row : rows) {
+      const std::string& cell = table.rows[row][column];
+      const std::optional<Decimal> number = Decimal::parse(cell);
+      if (!number) continue;
+      if (const std::size_t point = cell.find('.'); point != std::string::npos) {
+        decimals = std::max(decimals, cell.size() - point - 1);
+      }
+      if (!number->is_zero()) sum = sum + *number;
+    }
+    return sum.text(static_cast<int>(decimals));
+  } catch (const FaultError&) {
+    return "?";
+  }
+}
+
+}  // namespace ecr
