@@ -158,7 +158,7 @@ ChartPlan plan_chart(const Chart& chart, const QRectF& place, const QFont& font)
 double chart_height(const Chart& chart, const QFont& font) {
   const double title = QFontMetricsF{title_font(font)}.height() * 1.6;
   const double line = QFontMetricsF{font}.height();
-  return title + (chart.kind == Chart::Kind::bars ? static_cast<double>(chart.points.size()) * line * 1.7 : line * 12);
+  return title + (chart.kind == Chart::Kind::bars ? static_cast<double>(chart.points.size()) * line * 1.7 : line * 10);
 }
 
 void draw_chart(QPainter& painter, const Chart& chart, const QRectF& place, const ChartLook& look) {

@@ -40,7 +40,8 @@ void ChartView::paintEvent(QPaintEvent*) {
   ChartLook look;
   look.text = palette().color(QPalette::Text);
   look.muted = palette().color(QPalette::Disabled, QPalette::Text);
-  look.grid = palette().color(QPalette::Window);
+  look.grid = look.muted;
+  look.grid.setAlpha(70);
   look.bar = palette().color(QPalette::Highlight);
   look.negative = text_red();
   look.font = font();

@@ -10,6 +10,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QScrollArea>
+#include <QScrollBar>
 
 #include "core/files.h"
 #include "core/global.h"
@@ -41,6 +42,7 @@ FrmReportView::FrmReportView()
       L_Rows{make_label(QStringLiteral("L_Rows"), this)},
       Tabs{new QTabWidget{this}},
       Fg_Report{new QTableView},
+      Fg_Sums{new QTableView},
       P_Charts{new ChartView{QStringLiteral("P_Charts"), nullptr}},
       T_Receipt{new QPlainTextEdit},
       L_Receipt{make_label(QStringLiteral("L_Receipt"), this)},
@@ -68,25 +70,13 @@ FrmReportView::FrmReportView()
   make_hint(*L_Rows);
   make_hint(*L_Receipt);
 
-  Fg_Report->setObjectName(QStringLiteral("Fg_Report"));
-  Fg_Report->setAccessibleName(QStringLiteral("The report as a table"));
-  Fg_Report->setModel(&model_);
-  Fg_Report->setSelectionBehavior(QAbstractItemView::SelectRows);
-  Fg_Report->setSelectionMode(QAbstractItemView::SingleSelection);
-  Fg_Report->setAlternatingRowColors(true);
-  Fg_Report->setShowGrid(false);
-  Fg_Report->setWordWrap(false);
-  Fg_Report->setTabKeyNavigation(false);
-  Fg_Report->verticalHeader()->hide();
-  Fg_Report->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-  Fg_Report->verticalHeader()->setDefaultSectionSize(Fg_Report->fontMetrics().height() + 10);
-  Fg_Report->horizontalHeader()->setHighlightSections(false);
-  Fg_Report->horizontalHeader()->setResizeContentsPrecision(64);
-  Fg_Report->horizontalHeader()->setStretchLastSection(false);
+  set_up_table();
   T_Receipt->setObjectName(QStringLiteral("T_Receipt"));
   T_Receipt->setAccessibleName(QStringLiteral("The receipt"));
   T_Receipt->setReadOnly(true);
-  T_Receipt->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  QFont paper = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  paper.setPointSizeF(11);
+  T_Receipt->setFont(paper);
   lay_out();
 
   Cmb_File->on_click([this] { show_file(); });
@@ -98,6 +88,45 @@ FrmReportView::FrmReportView()
   C_Annulla->on_click([this] { unload(); });
   C_Pdf->on_click([this] { save_pdf(); });
   C_Print->on_click([this] { print(); });
+}
+
+void FrmReportView::set_up_table() {
+  const int row_height = Fg_Report->fontMetrics().height() + 10;
+  Fg_Report->setModel(&model_);
+  Fg_Sums->setModel(&sums_);
+  for (QTableView* view : {Fg_Report, Fg_Sums}) {
+    view->setShowGrid(false);
+    view->setWordWrap(false);
+    view->setTabKeyNavigation(false);
+    view->verticalHeader()->hide();
+    // One height for all rows: asking each of thousands would cost time.
+    view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    view->verticalHeader()->setDefaultSectionSize(row_height);
+    view->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+  }
+  Fg_Report->setObjectName(QStringLiteral("Fg_Report"));
+  Fg_Report->setAccessibleName(QStringLiteral("The report as a table"));
+  Fg_Report->setSelectionBehavior(QAbstractItemView::SelectRows);
+  Fg_Report->setSelectionMode(QAbstractItemView::SingleSelection);
+  Fg_Report->setAlternatingRowColors(true);
+  Fg_Report->horizontalHeader()->setHighlightSections(false);
+  Fg_Report->horizontalHeader()->setResizeContentsPrecision(64);
+  // The sums stay in sight below the rows.
+  QFont bold = Fg_Sums->font();
+  bold.setBold(true);
+  Fg_Sums->setFont(bold);
+  Fg_Sums->setObjectName(QStringLiteral("Fg_Sums"));
+  Fg_Sums->setAccessibleName(QStringLiteral("Sums of the rows on show"));
+  Fg_Sums->setFocusPolicy(Qt::NoFocus);
+  Fg_Sums->setSelectionMode(QAbstractItemView::NoSelection);
+  Fg_Sums->horizontalHeader()->hide();
+  Fg_Sums->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  Fg_Sums->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  Fg_Sums->setFixedHeight(row_height + 2 * Fg_Sums->frameWidth() + 2);
+  connect(Fg_Report->horizontalHeader(), &QHeaderView::sectionResized, Fg_Sums,
+          [this](int column, int, int width) { Fg_Sums->setColumnWidth(column, width); });
+  connect(Fg_Report->horizontalScrollBar(), &QScrollBar::valueChanged, Fg_Sums->horizontalScrollBar(),
+          &QScrollBar::setValue);
 }
 
 void FrmReportView::lay_out() {
@@ -115,7 +144,14 @@ void FrmReportView::lay_out() {
   choices->addWidget(Chk_Figures, 1, 2, 1, 2);
   frame_.body->addLayout(choices);
 
-  Tabs->addTab(Fg_Report, QStringLiteral("Table"));
+  auto* table = new QWidget;
+  table->setObjectName(QStringLiteral("F_Table"));
+  auto* rows = new QVBoxLayout{table};
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(4);
+  rows->addWidget(Fg_Report, 1);
+  rows->addWidget(Fg_Sums);
+  Tabs->addTab(table, QStringLiteral("Table"));
   auto* pictures = new QScrollArea;
   pictures->setObjectName(QStringLiteral("S_Charts"));
   pictures->setAccessibleName(QStringLiteral("The report as pictures"));
@@ -133,7 +169,10 @@ void FrmReportView::lay_out() {
   pages->addWidget(L_Receipt);
   pages->addStretch(1);
   paper->addLayout(pages);
-  paper->addWidget(T_Receipt, 1);
+  // As wide as the paper of a receipt, with a little room.
+  constexpr int characters = 32;
+  T_Receipt->setFixedWidth(T_Receipt->fontMetrics().averageCharWidth() * characters);
+  paper->addWidget(T_Receipt, 1, Qt::AlignHCenter);
   Tabs->addTab(receipt, QStringLiteral("Receipts"));
   frame_.body->addWidget(Tabs, 1);
 
@@ -168,6 +207,8 @@ void FrmReportView::load() {
 
 void FrmReportView::list_files() {
   files_ = files_matching(Global::PathReport, "*" + std::string{csv_ending});
+  // The release leaves an empty file behind each export.
+  std::erase_if(files_, [](const std::string& name) { return FileReader{Global::PathReport + name}.size() == 0; });
   QStringList entries;
   for (const std::string& name : files_) {
     entries << field_text(name.substr(0, name.size() - csv_ending.size()));
@@ -216,6 +257,12 @@ void FrmReportView::show_export() {
   Chk_Figures->setVisible(!journal);
   apply_wishes();
   Fg_Report->resizeColumnsToContents();
+  // A sum can be wider than everything above it.
+  for (int column = 0; column < model_.columnCount(); ++column) {
+    const int sum = QFontMetrics{Fg_Sums->font()}.horizontalAdvance(model_.sum(column)) + 24;
+    Fg_Report->setColumnWidth(column, std::max(Fg_Report->columnWidth(column), sum));
+    Fg_Sums->setColumnWidth(column, Fg_Report->columnWidth(column));
+  }
 }
 
 void FrmReportView::apply_wishes() {
@@ -223,6 +270,7 @@ void FrmReportView::apply_wishes() {
   wishes.filter = page_bytes(E_Filter->text());
   wishes.only_with_figures = Chk_Figures->isChecked();
   model_.wish(wishes);
+  Fg_Sums->setVisible(model_.has_sums());
   show_receipts();
   const bool anything = !exports_.empty();
   C_Print->setEnabled(anything);

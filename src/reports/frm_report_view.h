@@ -34,6 +34,7 @@ class FrmReportView : public Screen {
  private:
   enum Tab { table_tab, picture_tab, receipt_tab };
 
+  void set_up_table();
   void lay_out();
   void list_files();
   void show_file();
@@ -58,6 +59,7 @@ class FrmReportView : public Screen {
   QLabel* L_Rows;
   QTabWidget* Tabs;
   QTableView* Fg_Report;
+  QTableView* Fg_Sums;
   ChartView* P_Charts;
   QPlainTextEdit* T_Receipt;
   QLabel* L_Receipt;
@@ -68,6 +70,7 @@ class FrmReportView : public Screen {
   CommandButton* C_Print;
 
   ReportModel model_;
+  SumsModel sums_{model_};
   std::vector<std::string> files_;
   std::vector<CsvExport> exports_;
   std::vector<Receipt> receipts_;

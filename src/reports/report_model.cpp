@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include <QFont>
-
 #include "widgets/screen_text.h"
 
 namespace ecr {
@@ -42,8 +40,13 @@ void ReportModel::arrange() {
   if (sums_.front().empty()) sums_.front() = "Sum";
 }
 
+QString ReportModel::sum(int column) const {
+  const auto place = static_cast<std::size_t>(column);
+  return column < 0 || place >= sums_.size() ? QString{} : screen_text(sums_[place]);
+}
+
 int ReportModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : rows_shown() + (has_sums() ? 1 : 0);
+  return parent.isValid() ? 0 : rows_shown();
 }
 
 int ReportModel::columnCount(const QModelIndex& parent) const {
@@ -53,20 +56,8 @@ int ReportModel::columnCount(const QModelIndex& parent) const {
 QVariant ReportModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
   const auto column = static_cast<std::size_t>(index.column());
-  const bool is_sum = index.row() >= rows_shown();
-  if (role == Qt::DisplayRole) {
-    const std::string& text =
-        is_sum ? sums_[column] : table_.rows[rows_[static_cast<std::size_t>(index.row())]][column];
-    return screen_text(text);
-  }
-  if (role == Qt::TextAlignmentRole) {
-    return QVariant{(table_.columns[column].is_number ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter};
-  }
-  if (role == Qt::FontRole && is_sum) {
-    QFont font;
-    font.setBold(true);
-    return font;
-  }
+  if (role == Qt::DisplayRole) return screen_text(table_.rows[rows_[static_cast<std::size_t>(index.row())]][column]);
+  if (role == Qt::TextAlignmentRole) return headerData(index.column(), Qt::Horizontal, role);
   return {};
 }
 
@@ -77,6 +68,26 @@ QVariant ReportModel::headerData(int section, Qt::Orientation orientation, int r
   if (role == Qt::TextAlignmentRole) {
     return QVariant{(column.is_number ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter};
   }
+  return {};
+}
+
+SumsModel::SumsModel(ReportModel& report) : report_{report} {
+  connect(&report, &ReportModel::modelAboutToBeReset, this, [this] { beginResetModel(); });
+  connect(&report, &ReportModel::modelReset, this, [this] { endResetModel(); });
+}
+
+int SumsModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() || !report_.has_sums() ? 0 : 1;
+}
+
+int SumsModel::columnCount(const QModelIndex& parent) const {
+  return report_.columnCount(parent);
+}
+
+QVariant SumsModel::data(const QModelIndex& index, int role) const {
+  if (!index.isValid()) return {};
+  if (role == Qt::DisplayRole) return report_.sum(index.column());
+  if (role == Qt::TextAlignmentRole) return report_.headerData(index.column(), Qt::Horizontal, role);
   return {};
 }
 

@@ -43,12 +43,18 @@ QString table_html(const ReportModel& table) {
   }
   html += QStringLiteral("</tr></thead>");
   for (int row = 0; row < table.rowCount(); ++row) {
-    const bool is_sum = row >= table.rows_shown();
-    html += is_sum ? QStringLiteral("<tr bgcolor='#eef0f2'>") : QStringLiteral("<tr>");
+    html += QStringLiteral("<tr>");
     for (int column = 0; column < table.columnCount(); ++column) {
       const QModelIndex place = table.index(row, column);
-      html += cell(is_sum ? QStringLiteral("th") : QStringLiteral("td"), table.data(place, Qt::DisplayRole),
-                   table.data(place, Qt::TextAlignmentRole));
+      html += cell(QStringLiteral("td"), table.data(place, Qt::DisplayRole), table.data(place, Qt::TextAlignmentRole));
+    }
+    html += QStringLiteral("</tr>");
+  }
+  if (table.has_sums()) {
+    html += QStringLiteral("<tr bgcolor='#eef0f2'>");
+    for (int column = 0; column < table.columnCount(); ++column) {
+      html += cell(QStringLiteral("th"), table.sum(column),
+                   table.headerData(column, Qt::Horizontal, Qt::TextAlignmentRole));
     }
     html += QStringLiteral("</tr>");
   }

@@ -30,10 +30,44 @@ const ReportLayout* layout_of(std::uint8_t number, const CsvExport& exported) {
   return header == report_header(*layout) ? layout : nullptr;
 }
 
+/// With as many decimals as the numbers have at the most; what is no number counts as nothing.
+class Sum {
+ public:
+  void add(const std::string& text) {
+    const std::optional<Decimal> number = Decimal::parse(text);
+    if (!number) return;
+    if (const std::size_t point = text.find('.'); point != std::string::npos) {
+      decimals_ = std::max(decimals_, text.size() - point - 1);
+    }
+    if (!number->is_zero()) sum_ = sum_ + *number;
+  }
+  [[nodiscard]] std::string text() const { return sum_.text(static_cast<int>(decimals_)); }
+
+ private:
+  Decimal sum_;
+  std::size_t decimals_ = 0;
+};
+
+constexpr const char* beyond_all_digits = "?";
+
+std::string sum_of(const std::vector<std::vector<std::string>>& rows, std::size_t column) {
+  try {
+    Sum sum;
+    for (const auto& row : rows) {
+      if (column < row.size()) sum.add(row[column]);
+    }
+    return sum.text();
+  } catch (const FaultError&) {
+    return beyond_all_digits;
+  }
+}
+
 ReportTable upright(std::uint8_t number, const CsvExport& exported) {
   const std::size_t first = is_clerk_report(number) ? 1 : 0;
   ReportTable table;
+  const bool has_sum = exported.rows.size() > 1;
   table.columns.push_back({"Total"});
+  if (has_sum) table.columns.push_back({"Sum", true});
   for (std::size_t i = 0; i < exported.rows.size(); ++i) {
     const std::string& head = exported.rows[i][0];
     table.columns.push_back({first == 1                  ? "Clerk " + head
@@ -43,6 +77,7 @@ ReportTable upright(std::uint8_t number, const CsvExport& exported) {
   }
   for (std::size_t i = first; i < exported.heading.size(); ++i) {
     std::vector<std::string> row{exported.heading[i]};
+    if (has_sum) row.push_back(sum_of(exported.rows, i));
     for (const auto& record : exported.rows) row.push_back(i < record.size() ? record[i] : std::string{});
     table.rows.push_back(std::move(row));
   }
@@ -179,20 +214,11 @@ std::vector<std::size_t> wished_rows(const ReportTable& table, const TableWishes
 
 std::string column_sum(const ReportTable& table, std::size_t column, const std::vector<std::size_t>& rows) {
   try {
-    Decimal sum;
-    std::size_t decimals = 0;
-    for (const std::size_t row : rows) {
-      const std::string& cell = table.rows[row][column];
-      const std::optional<Decimal> number = Decimal::parse(cell);
-      if (!number) continue;
-      if (const std::size_t point = cell.find('.'); point != std::string::npos) {
-        decimals = std::max(decimals, cell.size() - point - 1);
-      }
-      if (!number->is_zero()) sum = sum + *number;
-    }
-    return sum.text(static_cast<int>(decimals));
+    Sum sum;
+    for (const std::size_t row : rows) sum.add(table.rows[row][column]);
+    return sum.text();
   } catch (const FaultError&) {
-    return "?";
+    return beyond_all_digits;
   }
 }
 
