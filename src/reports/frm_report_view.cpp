@@ -56,6 +56,7 @@ FrmReportView::FrmReportView()
   L_Filter = make_label(QStringLiteral("L_Filter"), this, E_Filter);
   Chk_Figures->setObjectName(QStringLiteral("Chk_Figures"));
   Tabs->setObjectName(QStringLiteral("Tabs"));
+  Tabs->setAccessibleName(QStringLiteral("Ways to look at the report"));
   Captions::fix(*this, "Report viewer");
   Captions::fix(*frame_.L_Titolo, "Report viewer");
   Captions::fix(*L_File, "Report");
@@ -77,6 +78,7 @@ FrmReportView::FrmReportView()
   QFont paper = QFontDatabase::systemFont(QFontDatabase::FixedFont);
   paper.setPointSizeF(11);
   T_Receipt->setFont(paper);
+  T_Receipt->document()->setDocumentMargin(14);
   lay_out();
 
   Cmb_File->on_click([this] { show_file(); });
@@ -170,7 +172,7 @@ void FrmReportView::lay_out() {
   pages->addStretch(1);
   paper->addLayout(pages);
   // As wide as the paper of a receipt, with a little room.
-  constexpr int characters = 32;
+  constexpr int characters = 34;
   T_Receipt->setFixedWidth(T_Receipt->fontMetrics().averageCharWidth() * characters);
   paper->addWidget(T_Receipt, 1, Qt::AlignHCenter);
   Tabs->addTab(receipt, QStringLiteral("Receipts"));
