@@ -15,7 +15,13 @@ namespace {
 constexpr int most_steps = 5;
 
 QFont title_font(QFont font) {
-  font.setPointSizeF(font.pointSizeF() * 1.2);
+  // A font has its size in points or in pixels, never in both.
+  constexpr double larger = 1.2;
+  if (font.pointSizeF() > 0) {
+    font.setPointSizeF(font.pointSizeF() * larger);
+  } else {
+    font.setPixelSize(static_cast<int>(font.pixelSize() * larger));
+  }
   font.setWeight(QFont::DemiBold);
   return font;
 }

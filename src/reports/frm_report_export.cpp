@@ -80,7 +80,7 @@ FrmReportExport::FrmReportExport()
     captions_.add(*check, *row.key, row.built_in);
     // Two columns of six, read downwards.
     constexpr int rows_of_grid = 6;
-    grid->addWidget(check, place % rows_of_grid, place / rows_of_grid);
+    grid->addWidget(check, place % rows_of_grid, place / rows_of_grid, Qt::AlignLeft);
     ++place;
   }
   L_MPS_Level = make_label(QStringLiteral("L_MPS_Level"), this, Txt_MPS_Min);

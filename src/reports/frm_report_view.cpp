@@ -143,7 +143,7 @@ void FrmReportView::lay_out() {
   choices->addWidget(Cmb_Export, 0, 3);
   choices->addWidget(L_Filter, 1, 0);
   choices->addWidget(E_Filter, 1, 1);
-  choices->addWidget(Chk_Figures, 1, 2, 1, 2);
+  choices->addWidget(Chk_Figures, 1, 2, 1, 2, Qt::AlignLeft);
   frame_.body->addLayout(choices);
 
   auto* table = new QWidget;

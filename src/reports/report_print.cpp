@@ -1,5 +1,6 @@
 #include "reports/report_print.h"
 
+#include <QFile>
 #include <QImage>
 #include <QPainter>
 #include <QPrinter>
@@ -83,6 +84,8 @@ void lay_report(QTextDocument& document, const PrintedReport& report, double wid
 }
 
 bool print_report(QPrinter& printer, const PrintedReport& report) {
+  // The toolkit says only on the error output that it could not write a file.
+  if (!printer.outputFileName().isEmpty() && !QFile{printer.outputFileName()}.open(QIODevice::ReadWrite)) return false;
   QTextDocument document;
   // The document lays itself out in points of the screen's kind and is scaled onto the paper, margins included.
   constexpr double points_per_inch = 72;
