@@ -32,14 +32,20 @@ struct Range {
   double step = 1;
 };
 
-/// From zero, or what is below it, to the first line of the scale that no value passes.
-Range range_of(const Chart& chart) {
+/// From zero, or the least value below it, to the largest one.
+Range values_of(const Chart& chart) {
   Range range;
   for (const Chart::Point& point : chart.points) {
     range.least = std::min(range.least, point.value);
     range.most = std::max(range.most, point.value);
   }
   if (range.least == range.most) range.most = 1;
+  return range;
+}
+
+/// The same, as far as the lines of the scale that no value passes.
+Range range_of(const Chart& chart) {
+  Range range = values_of(chart);
   range.step = round_step(range.most - range.least, most_steps);
   range.least = std::floor(range.least / range.step) * range.step;
   range.most = std::ceil(range.most / range.step) * range.step;
@@ -69,7 +75,8 @@ void plan_bars(ChartPlan& plan, const Chart& chart, const QRectF& place, const Q
   const double gap = metrics.averageCharWidth();
   names = std::min(names, place.width() / 3);
   plan.plot = place.adjusted(names + gap, 0, -(values + 2 * gap), 0);
-  const Range range = range_of(chart);
+  // No scale is shown, so the longest bar takes all the room.
+  const Range range = values_of(chart);
   const auto x_of = [&](double value) {
     return plan.plot.left() + (value - range.least) / (range.most - range.least) * plan.plot.width();
   };

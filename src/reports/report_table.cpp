@@ -21,6 +21,10 @@ bool is_clerk_report(std::uint8_t number) {
   return number >= 9 && number <= 11;
 }
 
+bool is_stock_report(std::uint8_t number) {
+  return number == 20 || number == 21;
+}
+
 /// Whether the file is what the report's name promises.
 const ReportLayout* layout_of(std::uint8_t number, const CsvExport& exported) {
   const ReportLayout* layout = report_layout(number);
@@ -67,13 +71,13 @@ ReportTable upright(std::uint8_t number, const CsvExport& exported) {
   ReportTable table;
   const bool has_sum = exported.rows.size() > 1;
   table.columns.push_back({"Total"});
-  if (has_sum) table.columns.push_back({"Sum", true});
+  if (has_sum) table.columns.push_back({"Sum", true, false, true});
   for (std::size_t i = 0; i < exported.rows.size(); ++i) {
     const std::string& head = exported.rows[i][0];
     table.columns.push_back({first == 1                  ? "Clerk " + head
                              : exported.rows.size() == 1 ? "Value"
                                                          : std::to_string(i + 1),
-                             true});
+                             true, false, true});
   }
   for (std::size_t i = first; i < exported.heading.size(); ++i) {
     std::vector<std::string> row{exported.heading[i]};
@@ -141,6 +145,8 @@ ReportTable report_table(std::uint8_t number, const CsvExport& exported) {
       column.is_number = kind < ColumnKind::text;
       column.is_summed = kind == ColumnKind::value || kind == ColumnKind::int32 ||
                          (kind == ColumnKind::count && layout->columns[i].width < 8);
+      // An item without stock is worth seeing, a row without an item is not.
+      column.is_figure = is_stock_report(number) ? kind == ColumnKind::count : column.is_summed;
     }
     table.columns.push_back(std::move(column));
   }
@@ -186,16 +192,13 @@ std::vector<std::size_t> wished_rows(const ReportTable& table, const TableWishes
              return lower_ascii(cell).find(wanted) != std::string::npos;
            });
   };
-  const bool has_sums =
-      std::any_of(table.columns.begin(), table.columns.end(), [](const auto& column) { return column.is_summed; });
   const auto has_figures = [&](const std::vector<std::string>& row) {
     if (!wishes.only_with_figures) return true;
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
-      // An upright table has no sums; its numbers are what counts.
-      if ((has_sums ? table.columns[i].is_summed : table.columns[i].is_number) && is_some_number(row[i])) return true;
+      if (table.columns[i].is_figure && is_some_number(row[i])) return true;
     }
     return std::none_of(table.columns.begin(), table.columns.end(),
-                        [](const auto& column) { return column.is_number; });
+                        [](const auto& column) { return column.is_figure; });
   };
   std::vector<std::size_t> rows;
   for (std::size_t i = 0; i < table.rows.size(); ++i) {

@@ -16,6 +16,7 @@ struct ReportTable {
     std::string heading;
     bool is_number = false;  ///< stands at the right and is sorted by its worth
     bool is_summed = false;
+    bool is_figure = false;  ///< a row with nothing but zeros in such columns says nothing
   };
   std::vector<Column> columns;
   std::vector<std::vector<std::string>> rows;  ///< each with a cell for every column
@@ -36,7 +37,7 @@ struct ReportTable {
 /// The rows that are to be seen, in their order.
 struct TableWishes {
   std::string filter;              ///< in any cell, whatever its case
-  bool only_with_figures = false;  ///< rows whose summed columns are all zero are left out
+  bool only_with_figures = false;  ///< rows that say nothing are left out
   int sorted_by = -1;              ///< a column; -1 leaves the order of the file
   bool descending = false;
 };

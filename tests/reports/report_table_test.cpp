@@ -116,7 +116,7 @@ TEST_F(ReportTableTest, NumbersAreComparedByTheirWorth) {
 }
 
 TEST_F(ReportTableTest, RowsAreFilteredAndSorted) {
-  ReportTable table{{{"Name"}, {"Total", true, true}},
+  ReportTable table{{{"Name"}, {"Total", true, true, true}},
                     {{"beer", "2.00"}, {"Ale", "10.00"}, {"cider", "0.00"}, {"Beef", "-3.00"}}};
   EXPECT_EQ(wished(table, ""), (Rows{0, 1, 2, 3}));
   EXPECT_EQ(wished(table, "BE"), (Rows{0, 3}));
@@ -126,6 +126,13 @@ TEST_F(ReportTableTest, RowsAreFilteredAndSorted) {
   EXPECT_EQ(wished(table, "", false, 1, true), (Rows{1, 0, 2, 3}));
   EXPECT_EQ(wished(table, "", false, 0), (Rows{1, 3, 0, 2}));
   EXPECT_EQ(wished(table, "", false, 7), (Rows{0, 1, 2, 3}));
+}
+
+TEST_F(ReportTableTest, AnItemWithoutStockIsWorthSeeing) {
+  const ReportTable table = table_of(20, packed("42", 8) + std::string(16, 'A') + packed("0", 6));
+  EXPECT_EQ(wished(table, "", true), (Rows{0}));
+  EXPECT_EQ(wished(table_of(12, packed("0", 2) + packed("5", 8)), "", true), (Rows{0}));
+  EXPECT_EQ(wished(table_of(4, packed("5", 8)), "", true), (Rows{0}));
 }
 
 TEST_F(ReportTableTest, ATableWithoutNumbersHasNoEmptyRows) {
