@@ -247,11 +247,11 @@ void FrmReportView::show_file() {
 void FrmReportView::show_export() {
   const CsvExport* exported = chosen(exports_, Cmb_Export->currentIndex());
   Fg_Report->setSortingEnabled(false);
-  model_.show(exported == nullptr ? ReportTable{} : report_table(number_, *exported));
+  const bool journal = is_journal(number_) && exported != nullptr;
+  model_.show(exported == nullptr || journal ? ReportTable{} : report_table(number_, *exported));
   Fg_Report->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
   Fg_Report->setSortingEnabled(true);
   P_Charts->show_charts(exported == nullptr ? std::vector<Chart>{} : report_charts(number_, *exported));
-  const bool journal = is_journal(number_) && exported != nullptr;
   Tabs->setTabVisible(table_tab, !journal);
   Tabs->setTabVisible(picture_tab, !P_Charts->charts().empty());
   Tabs->setTabVisible(receipt_tab, journal);
