@@ -1,6 +1,7 @@
 #include "core/amount_text.h"
 
 #include <algorithm>
+#include <array>
 
 #include "core/codecs.h"
 #include "core/decimal.h"
@@ -60,24 +61,24 @@ void append_stock(std::string& out, std::span<const std::uint8_t> field) {
     out += stock_text(field);
     return;
   }
-  const std::string_view digits = packed.all();
+  // A sign, the digits, a point, and room for what a write may touch.
+  std::array<char, 2 * PackedDigits::most_digits + 2> text;
+  char* end = text.data();
   std::size_t first = packed.first_significant();
-  const bool negative = first == 0 && !packed.is_one_and_zeros();
-  if (negative) {
-    out += '-';
+  if (first == 0 && !packed.is_one_and_zeros()) {
+    *end++ = '-';
     // The digit text of a negative amount goes through as it stands where it has no decimals.
-    first = decimals == 0 ? 1 : std::min(digits.find_first_not_of('0', 1), digits.size());
+    first = decimals == 0 ? 1 : packed.first_significant(1);
   }
-  const std::size_t point = digits.size() - decimals;
+  const std::size_t point = packed.count() - decimals;
   first = std::min(first, point - 1);
-  out += digits.substr(first, point - first);
-  std::size_t end = digits.size();
-  if (!is_amount) {
-    while (end > point && digits[end - 1] == '0') --end;
+  end = packed.write(end, first, point - first);
+  const std::size_t shown = decimals - (is_amount ? 0 : std::min(decimals, packed.zeros_at_end()));
+  if (shown > 0) {
+    *end++ = '.';
+    end = packed.write(end, point, shown);
   }
-  if (end == point) return;
-  out += '.';
-  out += digits.substr(point, end - point);
+  out.append(text.data(), static_cast<std::size_t>(end - text.data()));
 }
 
 void Stock_To_Bcds(std::string_view text, std::span<std::uint8_t> field) {

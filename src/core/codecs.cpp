@@ -1,6 +1,7 @@
 #include "core/codecs.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstddef>
 
@@ -58,8 +59,10 @@ void append_number(std::string& out, std::span<const std::uint8_t> field) {
     out += number_text(field);
     return;
   }
-  const std::string_view digits = packed.all();
-  out += digits.substr(std::min(packed.first_significant(), digits.size() - 1));
+  std::array<char, PackedDigits::most_digits> text;
+  const std::size_t first = std::min(packed.first_significant(), packed.count() - 1);
+  packed.write(text.data(), first, packed.count() - first);
+  out.append(text.data(), packed.count() - first);
 }
 
 std::string bcds_to_number_str(std::span<const std::uint8_t> field) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstring>
 
 #include "core/fault.h"
 #include "core/run_log.h"
@@ -55,6 +56,11 @@ constexpr std::array<std::uint8_t, 256> table(const Pair (&pairs)[N], std::uint8
   return result;
 }
 
+void from_ecr(std::span<char> text) {
+  std::transform(text.begin(), text.end(), text.begin(),
+                 [](char c) { return static_cast<char>(CharFromEcr[static_cast<unsigned char>(c)]); });
+}
+
 }  // namespace
 
 constexpr std::array<std::uint8_t, 256> CharToEcr = table(to_register, none_in_register);
@@ -89,13 +95,21 @@ std::string sostituzione_to_ecr(std::string_view bytes) {
 
 std::string sostituzione_from_ecr(std::string_view register_bytes) {
   std::string result{register_bytes};
-  sostituzione_from_ecr(std::span<char>{result});
+  from_ecr_in_place(result);
   return result;
 }
 
-void sostituzione_from_ecr(std::span<char> text) {
-  std::transform(text.begin(), text.end(), text.begin(),
-                 [](char c) { return static_cast<char>(CharFromEcr[static_cast<unsigned char>(c)]); });
+void from_ecr_in_place(std::span<char> text) {
+  // Codes up to 126 are the same on both sides: eight of them in a row stay as they are.
+  constexpr std::uint64_t ones = 0x0101010101010101;
+  constexpr std::uint64_t tops = 0x8080808080808080;
+  std::size_t place = 0;
+  for (; place + sizeof ones <= text.size(); place += sizeof ones) {
+    std::uint64_t eight = 0;
+    std::memcpy(&eight, text.data() + place, sizeof eight);
+    if (((eight | ((eight & ~tops) + ones)) & tops) != 0) from_ecr(text.subspan(place, sizeof eight));
+  }
+  from_ecr(text.subspan(place));
 }
 
 }  // namespace ecr

@@ -25,6 +25,6 @@ extern const std::array<std::uint8_t, 256> CharFromEcr;
 /// Into the characters of the code page, one for one.
 [[nodiscard]] std::string sostituzione_from_ecr(std::string_view register_bytes);
 /// The same in place.
-void sostituzione_from_ecr(std::span<char> text);
+void from_ecr_in_place(std::span<char> text);
 
 }  // namespace ecr

@@ -1,9 +1,7 @@
 #include "reports/export_report.h"
 
 #include <algorithm>
-#include <array>
 #include <bit>
-#include <cstring>
 #include <limits>
 #include <string_view>
 #include <vector>
@@ -62,12 +60,13 @@ void blank_out(std::span<char> line, std::string_view mark) {
   }
 }
 
-void append_journal_line(std::string& out, std::span<const std::uint8_t> field, std::string_view mark) {
-  std::array<char, journal_line_width> line{};
-  std::memcpy(line.data(), field.data(), line.size());
-  blank_out(line, mark);
-  sostituzione_from_ecr(std::span<char>{line});
-  out.append(line.data(), line.size());
+/// Appends register text as text of the page, without `mark` where it has one.
+void append_text(std::string& out, std::span<const std::uint8_t> field, std::string_view mark = {}) {
+  const std::size_t before = out.size();
+  out.append(reinterpret_cast<const char*>(field.data()), field.size());
+  const std::span<char> text{out.data() + before, field.size()};
+  if (!mark.empty()) blank_out(text, mark);
+  from_ecr_in_place(text);
 }
 
 void append_field(std::string& out, ColumnKind kind, std::span<const std::uint8_t> field) {
@@ -89,13 +88,13 @@ void append_field(std::string& out, ColumnKind kind, std::span<const std::uint8_
       break;
     }
     case ColumnKind::text:
-      out += sostituzione_from_ecr({reinterpret_cast<const char*>(field.data()), field.size()});
+      append_text(out, field);
       break;
     case ColumnKind::line:
-      append_journal_line(out, field, "\xFF");
+      append_text(out, field, "\xFF");
       break;
     case ColumnKind::marked:
-      append_journal_line(out, field, "255");
+      append_text(out, field, "255");
       break;
   }
 }

@@ -1,6 +1,7 @@
 #include "reports/report_names.h"
 
 #include <algorithm>
+#include <array>
 
 #include "core/packed_digits.h"
 #include "core/register_text.h"
@@ -20,7 +21,9 @@ std::string name_text(std::string_view name) {
 std::string code_text(const Bcd<8>& code) {
   PackedDigits digits;
   if (!digits.read(code.bytes)) return {};
-  return std::string{digits.all().substr(digits.first_significant())};
+  std::array<char, PackedDigits::most_digits> text;
+  const std::size_t first = digits.first_significant();
+  return {text.data(), digits.write(text.data(), first, digits.count() - first)};
 }
 
 }  // namespace

@@ -203,5 +203,18 @@ TEST_F(RegisterTextDeathTest, TheHardStopEndsTheProcessWithStatus0) {
   EXPECT_TRUE(log().empty());
 }
 
+TEST_F(RegisterText, EachCharacterIsLookedUpWhereverItStands) {
+  Random random{77};
+  for (int i = 0; i < 2000; ++i) {
+    std::string text =
+        random.coin() ? random.bytes(random.below(40)) : random.text(random.below(40), "AZ~\x7F\xFF\x80 0");
+    std::string expected = text;
+    for (char& c : expected) c = static_cast<char>(CharFromEcr[static_cast<unsigned char>(c)]);
+    EXPECT_EQ(sostituzione_from_ecr(text), expected);
+    from_ecr_in_place(text);
+    EXPECT_EQ(text, expected);
+  }
+}
+
 }  // namespace
 }  // namespace ecr::test
