@@ -1,6 +1,7 @@
 #include "reports/frm_report_view.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QFileDialog>
 #include <QFontDatabase>
@@ -11,6 +12,7 @@
 #include <QPrinter>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QShortcut>
 
 #include "core/files.h"
 #include "core/global.h"
@@ -113,6 +115,17 @@ void FrmReportView::set_up_table() {
   Fg_Report->setAlternatingRowColors(true);
   Fg_Report->horizontalHeader()->setHighlightSections(false);
   Fg_Report->horizontalHeader()->setResizeContentsPrecision(64);
+  // What a click on a heading does, for the hands on the keyboard: by the column of the current cell.
+  for (const auto& [key, order] :
+       {std::pair{Qt::Key_Down, Qt::AscendingOrder}, std::pair{Qt::Key_Up, Qt::DescendingOrder}}) {
+    auto* shortcut = new QShortcut{QKeySequence{Qt::ALT | key}, Fg_Report};
+    shortcut->setContext(Qt::WidgetShortcut);
+    connect(shortcut, &QShortcut::activated, this, [this, sorted = order] {
+      const int column = std::max(0, Fg_Report->currentIndex().column());
+      Fg_Report->sortByColumn(column, sorted);
+      Fg_Report->setCurrentIndex(model_.index(0, column));
+    });
+  }
   // The sums stay in sight below the rows.
   QFont bold = Fg_Sums->font();
   bold.setBold(true);

@@ -1,10 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QHeaderView>
 #include <QPlainTextEdit>
+#include <QPrintDialog>
 #include <QTabWidget>
 #include <QTableView>
+#include <QTimer>
 
 #include "core/global.h"
 #include "reports/chart_view.h"
@@ -98,6 +101,37 @@ TEST_F(FrmReportViewTest, AHeadingSortsByItsColumn) {
   EXPECT_EQ(cell(0, 1), QStringLiteral("11"));
   click_heading(2);
   EXPECT_EQ(cell(0, 2), QStringLiteral("3.00"));
+}
+
+TEST_F(FrmReportViewTest, SortsByKeyboardToo) {
+  write_hours();
+  open_viewer();
+  tab_to(table());
+  press(Qt::Key_Home);
+  press(Qt::Key_Right);
+  press(Qt::Key_Up, Qt::AltModifier);
+  EXPECT_EQ(cell(0, 1), QStringLiteral("11"));
+  EXPECT_EQ(table().currentIndex().column(), 1);
+  press(Qt::Key_Down, Qt::AltModifier);
+  EXPECT_EQ(cell(0, 1), QStringLiteral("4"));
+}
+
+TEST_F(FrmReportViewTest, PrintAsksForThePrinter) {
+  write_hours();
+  open_viewer();
+  bool asked = false;
+  QTimer look;
+  QObject::connect(&look, &QTimer::timeout, &look, [&] {
+    auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+    if (dialog == nullptr) return;
+    asked = true;
+    look.stop();
+    dialog->reject();
+  });
+  look.start(1);
+  click("C_Print");
+  EXPECT_TRUE(asked);
+  EXPECT_EQ(top(), QStringLiteral("FrmReportView"));
 }
 
 TEST_F(FrmReportViewTest, NumbersStandAtTheRight) {
