@@ -25,6 +25,16 @@ bool is_stock_report(std::uint8_t number) {
   return number == 20 || number == 21;
 }
 
+/// The separators of a name stand in the file as they are: what is too much belongs to the name, behind the code.
+void join_name(std::vector<std::string>& row, std::size_t columns) {
+  constexpr std::size_t name = 1;
+  if (row.size() <= columns) return;
+  const std::size_t too_much = row.size() - columns;
+  for (std::size_t i = 1; i <= too_much; ++i) row[name] += ";" + row[name + i];
+  const auto behind_name = row.begin() + name + 1;
+  row.erase(behind_name, behind_name + static_cast<std::ptrdiff_t>(too_much));
+}
+
 /// Whether the file is what the report's name promises.
 const ReportLayout* layout_of(std::uint8_t number, const CsvExport& exported) {
   const ReportLayout* layout = report_layout(number);
@@ -151,7 +161,10 @@ ReportTable report_table(std::uint8_t number, const CsvExport& exported) {
     table.columns.push_back(std::move(column));
   }
   table.rows = exported.rows;
-  for (auto& row : table.rows) row.resize(table.columns.size());
+  for (auto& row : table.rows) {
+    if (layout != nullptr && is_stock_report(number)) join_name(row, table.columns.size());
+    row.resize(table.columns.size());
+  }
   if (layout == nullptr) return table;
   if (number == 5 || number == 6) {
     insert_column(table, 2, "Department", [](std::size_t, const auto& row) {

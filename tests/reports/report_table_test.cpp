@@ -135,6 +135,12 @@ TEST_F(ReportTableTest, AnItemWithoutStockIsWorthSeeing) {
   EXPECT_EQ(wished(table_of(4, packed("5", 8)), "", true), (Rows{0}));
 }
 
+TEST_F(ReportTableTest, ANameWithSeparatorsStaysOneCell) {
+  const ReportTable table = table_of(21, packed("42", 8) + "A;B;;          ;" + packed("15000", 6));
+  ASSERT_EQ(table.rows.size(), 1U);
+  EXPECT_EQ(table.rows[0], (Cells{"42", "A;B;;          ;", "1.5"}));
+}
+
 TEST_F(ReportTableTest, ATableWithoutNumbersHasNoEmptyRows) {
   const ReportTable table{{{"Name"}}, {{"a"}, {""}}};
   EXPECT_EQ(wished(table, "", true), (Rows{0, 1}));
