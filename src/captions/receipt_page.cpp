@@ -81,9 +81,9 @@ QWidget* ReceiptPage::make_group(LineGroup group) {
     });
     QLabel* label = make_label(member_name(about.label_name, i), page, line);
     label->setWordWrap(true);
-    label->setMinimumWidth(group == LineGroup::other ? 165 : 0);
+    label->setMinimumWidth(group == LineGroup::other ? 165 : 108);
     // A description of any length leaves its field in sight.
-    label->setMaximumSize(widest_label, 3 * label->fontMetrics().lineSpacing());
+    label->setMaximumSize(widest_label, 3 * label->fontMetrics().lineSpacing() + 6);
     grid->addWidget(label, i, 0);
     grid->addWidget(line, i, 1);
     lines_[index_of(group)].push_back(line);

@@ -28,7 +28,7 @@ std::int64_t highest(std::uint8_t limit) {
 }
 
 bool bit(std::uint8_t flags, unsigned number) {
-  return (flags >> number & 1U) != 0;
+  return ((static_cast<unsigned>(flags) >> number) & 1U) != 0;
 }
 
 int tax_of(std::uint8_t byte) {

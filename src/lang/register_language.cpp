@@ -18,8 +18,7 @@ namespace {
 
 constexpr bool line_goes_to(std::size_t line, std::string_view section, std::size_t number) {
   const TextPlace& place = register_language_places.at(line);
-  return place.field != nullptr && place.field->name == section && place.number == number &&
-         place.field->kind == FieldKind::text;
+  return place.field().name == section && place.number == number && place.field().kind == FieldKind::text;
 }
 
 // The first and the last line of each section of more than one, and the lines of those of one.
@@ -41,9 +40,9 @@ std::string file_of(std::uint8_t number) {
 }
 
 void put_text(const TextPlace& place, std::string_view line) {
-  const std::string text = padded(sostituzione_to_ecr(line), place.field->width);
+  const std::string text = padded(sostituzione_to_ecr(line), place.field().width);
   // Any object may be written to as the bytes it is made of.
-  std::copy(text.begin(), text.end(), reinterpret_cast<char*>(&PrgMode) + place.field->offset_of(place.number));
+  std::copy(text.begin(), text.end(), reinterpret_cast<char*>(&PrgMode) + place.field().offset_of(place.number));
 }
 
 void put_texts(std::string_view bytes) {

@@ -36,8 +36,10 @@ inline constexpr std::size_t register_language_lines = 148;
 
 /// Where the text of one line goes.
 struct TextPlace {
-  const FieldPlace* field = nullptr;
+  std::size_t row = 0;     ///< in image_fields
   std::size_t number = 0;  ///< which one of the field's row
+
+  [[nodiscard]] constexpr const FieldPlace& field() const { return image_fields[row]; }
 };
 
 namespace register_language_detail {
@@ -46,9 +48,10 @@ constexpr std::array<TextPlace, register_language_lines> places() {
   std::array<TextPlace, register_language_lines> result{};
   std::size_t line = 0;
   for (const std::string_view section : register_language_sections) {
-    for (const FieldPlace& field : image_fields) {
+    for (std::size_t row = 0; row < image_fields.size(); ++row) {
+      const FieldPlace& field = image_fields[row];
       if (field.name != section) continue;
-      for (std::size_t number = field.first; field.has(number); ++number) result.at(line++) = {&field, number};
+      for (std::size_t number = field.first; field.has(number); ++number) result.at(line++) = {row, number};
     }
   }
   return result;

@@ -1,6 +1,5 @@
 #include "logo/frm_set_logo.h"
 
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QImage>
@@ -116,12 +115,11 @@ void FrmSetLogo::load() {
 }
 
 QString FrmSetLogo::choose() {
-  QFileDialog dialog{this, Comm_Percorso.title, Comm_Percorso.folder, Comm_Percorso.filter};
   // The journal's filter stays when it comes to the next bitmap: whoever types a name may leave the filter aside.
-  dialog.setFileMode(QFileDialog::AnyFile);
-  if (dialog.exec() != QDialog::Accepted) return {};
-  QString path = dialog.selectedFiles().value(0);
-  if (!path.isEmpty()) Comm_Percorso.folder = QFileInfo{path}.path();
+  const std::optional<std::string> chosen = choose_file_to_open(this, Comm_Percorso);
+  if (!chosen.has_value()) return {};
+  const QString path = path_for_toolkit(host_path(*chosen));
+  Comm_Percorso.folder = QFileInfo{path}.path();
   return path;
 }
 

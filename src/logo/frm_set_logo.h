@@ -6,6 +6,7 @@
 #include <QString>
 
 #include "widgets/captions.h"
+#include "widgets/choose_file.h"
 #include "widgets/controls.h"
 #include "widgets/screen.h"
 #include "widgets/screen_frame.h"
@@ -26,12 +27,6 @@ class FrmSetLogo : public Screen {
 
  private:
   /// The one file chooser of the screen: whoever sets its filter and title sets them for both buttons.
-  struct Chooser {
-    QString filter;
-    QString title;
-    QString folder;  ///< where it opens
-  };
-
   void lay_out();
   /// The path that the person chose, as the toolkit writes it; empty for none.
   QString choose();

@@ -1,8 +1,12 @@
 #include "screens/frm_program_mode.h"
 
+#include <optional>
+#include <string>
+
 #include "captions/text_files.h"
 #include "core/files.h"
-#include "widgets/file_chooser.h"
+#include "core/global.h"
+#include "widgets/choose_file.h"
 #include "widgets/screen_text.h"
 
 namespace ecr {
@@ -53,10 +57,13 @@ FrmProgramMode::FrmProgramMode()
 }
 
 void FrmProgramMode::import_captions() {
-  const QString file = choose_file_to_open(*this, {.name = QStringLiteral("Comm_Percorso"),
-                                                   .title = QStringLiteral("File Import Selection"),
-                                                   .filter = QStringLiteral("File (*.txt)")});
-  if (!file.isEmpty()) Import_Caption(backslash_path(path_of_toolkit(file)));
+  const std::optional<std::string> file =
+      choose_file_to_open(this, {.title = QStringLiteral("File Import Selection"),
+                                 .filter = QStringLiteral("File (*.txt)"),
+                                 .name = QStringLiteral("Comm_Percorso"),
+                                 .folder = path_for_toolkit(host_path(Global::PathApp)),
+                                 .must_be_there = true});
+  if (file.has_value()) Import_Caption(*file);
 }
 
 }  // namespace ecr

@@ -10,9 +10,10 @@ namespace {
 
 std::optional<std::string> choose(QWidget* over, const Chooser& chooser, const std::string& offered,
                                   QFileDialog::AcceptMode mode) {
-  QFileDialog dialog{over, chooser.title, QString{}, chooser.filter};
+  QFileDialog dialog{over, chooser.title, chooser.folder, chooser.filter};
+  dialog.setObjectName(chooser.name);
   dialog.setAcceptMode(mode);
-  dialog.setFileMode(QFileDialog::AnyFile);
+  dialog.setFileMode(chooser.must_be_there ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
   if (!offered.empty()) dialog.selectFile(path_for_toolkit(host_path(offered)));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;

@@ -87,10 +87,10 @@ QComboBox#Cmb_KeyList { combobox-popup: 0; }
 QComboBox QAbstractItemView { background: @base; border: 1px solid @line; selection-background-color: @accent;
   selection-color: @onaccent; outline: none; }
 QComboBox QLineEdit, QComboBox QLineEdit:focus { border: none; padding: 0; background: transparent; }
-QTableView { background: @base; alternate-background-color: @alternate; border: 1px solid @line; border-radius: 6px;
+QTableView { background: @base; alternate-background-color: @alternate; margin: 1px; border: 1px solid @line; border-radius: 6px;
   selection-background-color: @accent; selection-color: @onaccent; outline: none; }
 QTableView::item { padding: 0 8px; border: none; }
-QTableView:focus { border: 2px solid @accent; }
+QTableView:focus { margin: 0; border: 2px solid @accent; }
 QHeaderView { background: @window; }
 QHeaderView::section { background: @window; color: @muted; border: none; border-bottom: 1px solid @line;
   padding: 6px 8px; font-weight: 600; }

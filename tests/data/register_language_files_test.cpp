@@ -64,7 +64,7 @@ TEST_P(EveryRegisterLanguage, Has148LinesThatEndWithCarriageReturnAndLineFeed) {
 TEST_P(EveryRegisterLanguage, HasNoTextThatWouldBeCut) {
   ASSERT_EQ(lines().size(), register_language_lines);
   for (std::size_t i = 0; i < lines().size(); ++i) {
-    EXPECT_LE(lines()[i].size(), register_language_places[i].field->width) << "line " << i << ": " << lines()[i];
+    EXPECT_LE(lines()[i].size(), register_language_places[i].field().width) << "line " << i << ": " << lines()[i];
     EXPECT_EQ(trim_end(lines()[i]), lines()[i]) << "line " << i;
   }
 }
@@ -84,7 +84,7 @@ TEST_P(EveryRegisterLanguage, ComesToTheRegisterAndBackUnchanged) {
   for (std::size_t i = 0; i < lines().size(); ++i) {
     const TextPlace& place = register_language_places.at(i);
     const std::string_view stored =
-        bytes_of_image(PrgMode).substr(place.field->offset_of(place.number), place.field->width);
+        bytes_of_image(PrgMode).substr(place.field().offset_of(place.number), place.field().width);
     EXPECT_EQ(sostituzione_from_ecr(trim_end(stored)), lines()[i]) << "line " << i;
   }
   EXPECT_TRUE(log().empty());
@@ -93,7 +93,7 @@ TEST_P(EveryRegisterLanguage, ComesToTheRegisterAndBackUnchanged) {
 TEST_P(EveryRegisterLanguage, NamesEveryGroupMessageAbbreviationInvoiceLineCaptionAndNotice) {
   ASSERT_EQ(lines().size(), register_language_lines);
   for (std::size_t i = 0; i < lines().size(); ++i) {
-    const std::string_view section = register_language_places[i].field->name;
+    const std::string_view section = register_language_places[i].field().name;
     // A shop adds lines of its own at the end of a receipt's header and footer.
     const bool may_be_empty = section == "ReceiptHeader" || section == "ReceiptFooter";
     if (may_be_empty && register_language_places[i].number > 1) continue;
@@ -106,7 +106,7 @@ TEST_P(EveryRegisterLanguage, HasNoTwoCaptionsAndNoTwoNoticesAlike) {
   for (const std::string_view section : {"DeptGroupName", "Caption", "Other"}) {
     std::set<std::string_view> seen;
     for (std::size_t i = 0; i < lines().size(); ++i) {
-      if (register_language_places[i].field->name != section) continue;
+      if (register_language_places[i].field().name != section) continue;
       EXPECT_TRUE(seen.insert(lines()[i]).second) << section << ": " << lines()[i];
     }
   }

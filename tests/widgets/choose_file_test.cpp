@@ -68,5 +68,28 @@ TEST_F(ChooseFile, WhatIsOfferedIsNamedAndCancellingAnswersNothing) {
   EXPECT_EQ(named, QStringLiteral("old.txt"));
 }
 
+TEST_F(ChooseFile, HasTheNameAndTheFolderThatWereAskedFor) {
+  when_up([this](QFileDialog& chooser) {
+    EXPECT_EQ(chooser.objectName(), QStringLiteral("Comm_Percorso"));
+    EXPECT_EQ(chooser.directory().absolutePath(), QString::fromStdString(host("Setup")));
+    chooser.reject();
+  });
+  Chooser wish = text_files;
+  wish.name = QStringLiteral("Comm_Percorso");
+  wish.folder = QString::fromStdString(host("Setup"));
+  EXPECT_EQ(choose_file_to_open(stage.top(), wish), std::nullopt);
+}
+
+TEST_F(ChooseFile, RefusesAFileThatIsNotThereWhereItMustBe) {
+  when_up([this](QFileDialog& chooser) {
+    name(chooser, "missing.txt");
+    EXPECT_TRUE(chooser.isVisible()) << "the chooser stays up";
+    chooser.reject();
+  });
+  Chooser wish = text_files;
+  wish.must_be_there = true;
+  EXPECT_EQ(choose_file_to_open(stage.top(), wish), std::nullopt);
+}
+
 }  // namespace
 }  // namespace ecr::test

@@ -33,6 +33,7 @@ FrmPopUpPluList::FrmPopUpPluList()
     Tab_PopUpPluList->addTab(make_list(list), QStringLiteral("List %1").arg(list + 1));
   }
   frame_.body->addWidget(Tab_PopUpPluList, 1);
+  frame_.changes_file(QStringLiteral("PRG_PLU.BIN"));
   frame_.on_save([this] { save(); });
   frame_.send_with(Send_PrgPluToEcr, EditorFrame::WhileSending::buttons_enabled);
 }
