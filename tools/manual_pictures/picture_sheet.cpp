@@ -36,7 +36,8 @@ int make_pages(const QDir& from, const QDir& to) {
   for (const QString& name : pictures_of(from)) {
     const QImage picture{from.filePath(name)};
     if (picture.isNull()) return fail(QStringLiteral("not a picture: ") + name);
-    const QImage page = picture.scaledToWidth(page_width, Qt::SmoothTransformation);
+    const bool is_wider = picture.width() > page_width;
+    const QImage page = is_wider ? picture.scaledToWidth(page_width, Qt::SmoothTransformation) : picture;
     if (!ecr::few_colours(page).save(to.filePath(name), "PNG", 0)) return fail(QStringLiteral("cannot write ") + name);
   }
   return 0;
