@@ -115,8 +115,14 @@ void EmulatedRegister::trade_days(RegisterSettings& settings) const {
   const int days = settings.days_to_trade();
   if (days == 0 || !settings.trade_no_more()) return;
   for (int day = 0; day < days; ++day) {
-    if (!trading::trade(register_, settings.seed(), trading::TradedDay::next).empty()) return;
+    if (!trading::trade(register_, settings.seed(), trading::TradedDay::next).empty()) break;
   }
+  draw_a_receipt();
+}
+
+void EmulatedRegister::draw_a_receipt() const {
+  // The picture is for whoever looks; the register goes on without it.
+  static_cast<void>(draw_receipt(register_, trading::journal_in(register_)));
 }
 
 void EmulatedRegister::append_to_calls(const std::string& note) const {
@@ -149,8 +155,7 @@ std::int32_t EmulatedRegister::download(std::uint8_t file) const {
   const bool held_before = file_exists(register_ + std::string{name});
   const Fault not_held = memory_.hold(file, bytes);
   if (not_held.stands()) return code_of_writing(not_held, held_before);
-  // The picture is for whoever looks; the register holds what it took without it.
-  if (file == ToolFile::logo || file == ToolFile::image) static_cast<void>(draw_receipt(register_));
+  if (file == ToolFile::logo || file == ToolFile::image) draw_a_receipt();
   return ToolCode::done;
 }
 

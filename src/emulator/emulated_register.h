@@ -40,6 +40,8 @@ class EmulatedRegister {
   [[nodiscard]] std::optional<std::int32_t> call(const std::string& note, std::optional<std::uint8_t> file,
                                                  const Work& work) const;
   void append_to_calls(const std::string& note) const;
+  /// Draws a receipt anew, with the logo that is held and the last sale of the journal.
+  void draw_a_receipt() const;
   void trade_days(RegisterSettings& settings) const;
   [[nodiscard]] std::int32_t upload(std::uint8_t file, const RegisterSettings& settings) const;
   [[nodiscard]] std::int32_t download(std::uint8_t file) const;

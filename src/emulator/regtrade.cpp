@@ -11,6 +11,7 @@
 
 #include "core/files.h"
 #include "core/system.h"
+#include "emulator/receipt.h"
 #include "emulator/settings.h"
 #include "emulator/trading.h"
 #include "platform/platform.h"
@@ -22,7 +23,9 @@ std::string trade(std::string folder, ecr::trading::TradedDay day) {
   folder = ecr::backslash_path(folder);
   if (!folder.ends_with('\\')) folder += '\\';
   folder += "register\\";
-  return ecr::trading::trade(folder, ecr::RegisterSettings{folder}.seed(), day);
+  std::string wrong = ecr::trading::trade(folder, ecr::RegisterSettings{folder}.seed(), day);
+  static_cast<void>(ecr::draw_receipt(folder, ecr::trading::journal_in(folder)));
+  return wrong;
 }
 
 }  // namespace

@@ -152,4 +152,9 @@ std::string report_of(std::string_view folder, std::uint8_t number, const std::o
   return never_traded(memory).report(number, range);
 }
 
+std::string journal_in(std::string_view folder) {
+  const std::optional<DayReports> reports = kept(folder);
+  return reports ? std::string{reports->journal()} : std::string{};
+}
+
 }  // namespace ecr::trading

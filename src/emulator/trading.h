@@ -26,4 +26,7 @@ enum class TradedDay : std::uint8_t {
 /// is that of 0 to 9999.
 [[nodiscard]] std::string report_of(std::string_view folder, std::uint8_t number, const std::optional<Range>& range);
 
+/// The records of the journal that the register in `folder` keeps, see journal.h; empty where it never traded.
+[[nodiscard]] std::string journal_in(std::string_view folder);
+
 }  // namespace ecr::trading

@@ -46,12 +46,7 @@ MenuScreen::MenuScreen(const QString& name, std::span<const MenuRow> rows, int c
       Captions::fix(*button, row.built_in);
     }
     const QString target = QString::fromLatin1(row.opens);
-    if (has_screen(target)) {
-      button->on_click([this, target] { open(make_screen(target)); });
-    } else {
-      button->setEnabled(false);
-      button->setToolTip(QStringLiteral("Not part of this version yet"));
-    }
+    if (!target.isEmpty()) button->on_click([this, target] { open(make_screen(target)); });
     entries_.push_back({&row, button});
   }
   frame_.body->addLayout(tiles_);
@@ -93,10 +88,7 @@ CommandButton* MenuScreen::button(const char* control) const {
 }
 
 void MenuScreen::set_routine(const char* control, std::function<void()> routine) {
-  CommandButton* target = button(control);
-  target->setEnabled(true);
-  target->setToolTip({});
-  target->on_click(std::move(routine));
+  button(control)->on_click(std::move(routine));
 }
 
 }  // namespace ecr

@@ -6,6 +6,10 @@
 
 #include "core/codecs.h"
 #include "core/global.h"
+#include "core/register_text.h"
+#include "core/text.h"
+#include "emulator/graphic.h"
+#include "emulator/receipt.h"
 #include "emulator/trading.h"
 #include "emulator/trading_test.h"
 
@@ -137,6 +141,24 @@ TEST_F(TradingStateTest, TheNextCallBringsTheDaysThatTheLineNamesAndClearsIt) {
   EXPECT_EQ(number(image().SysOpt5), closes + 3);
   EXPECT_EQ(bytes("register/register.txt"), "# mine\nport = 4\nTrade = 0\nowner = me\n");
   EXPECT_EQ(changing_nothing([this] { return send_cmd(upload, 22); }), done);
+}
+
+TEST_F(TradingStateTest, TheLastSaleOfTheDayIsSeenBelowTheLogo) {
+  become("Z320");
+  const std::string logo = std::string{"\x80\x01\xA2\x00", 4} + std::string(7776, '\x0F');
+  write("register/GRAPHIC.BIN", logo);
+  trade();
+  const std::optional<DotPicture> picture = picture_in_graphic(logo);
+  ASSERT_TRUE(picture.has_value());
+  std::vector<std::string> lines;
+  for (const auto& line : image().ReceiptHeader) lines.emplace_back(trim_end(sostituzione_from_ecr(line.view())));
+  while (!lines.empty() && lines.back().empty()) lines.pop_back();
+  lines.emplace_back();
+  // The first record of the report is its own; the others are those that the register keeps.
+  const std::vector<std::string> sale = last_receipt(fetched(16).substr(26));
+  ASSERT_GT(sale.size(), 3U) << "a sale has more than a line";
+  lines.insert(lines.end(), sale.begin(), sale.end());
+  EXPECT_EQ(bytes("register/receipt.bmp"), receipt_picture(*picture, lines));
 }
 
 TEST_F(TradingStateTest, AnyCallBringsThemAlsoOneThatFails) {

@@ -78,7 +78,83 @@ expect-bytes register/PRG_MODE.BIN 329 436F6666656520262074656108020101
 expect-enabled C_Salva yes
 click C_Annulla
 screen FrmProgramMode
+
+# An item gets another price, the items go into a file for a spreadsheet, and the register takes them.
+click C_PluProgram
+screen FrmPrgPlu
+row Fg_Plu 3
+picture pictures/z320/18-items.png
+paste E_Price1 360
+focus C_Salva
+expect E_Price1 3.60
+click C_Salva
+expect Cmb_PluNumber 4
+click C_Export
+file items.csv
+expect-file items.csv exists
+click C_Invia_Ecr
+nobox
+click C_Annulla
+click C_PopUpPluList
+picture pictures/z320/19-pop-up-lists.png
+click C_Annulla
+click C_TenderProgram
+picture pictures/z320/20-payment-media.png
+click C_Annulla
+click C_ClerkSystemProgram
+picture pictures/z320/21-clerks.png
+click C_Annulla
 click C_Exit
+
+# What the register prints, and how its keys lie.
+click C_SettingMode
+click C_Print_Out_Mode
+picture pictures/z320/22-print-mode.png
+click C_Annulla
+click C_Exit
+click C_MessageSetup
+screen FrmCaptionSetting
+tab Tab_Invoice 1
+paste E_ReceiptFooter(0) "See you soon!"
+picture pictures/z320/23-captions.png
+click C_Salva
+click C_Invia_Ecr
+nobox
+click C_Annulla
+click C_AdvancedSetting
+tab Tab_AdvancedOption 1
+choose Cmb_KeyList "24. SUBTOTAL"
+picture pictures/z320/24-keyboard.png
+click C_Annulla
+
+# A day of sales, its reports as CSV files in Report/, and what the viewer makes of them.
+register trade
+click C_Report
+screen FrmReportExport
+check Chk_Report(3) on
+check Chk_Report(4) on
+check Chk_Report(5) on
+check Chk_Report(7) on
+check Chk_Report(9) on
+check Chk_Report(12) on
+check Chk_Report(16) on
+picture pictures/z320/25-reports.png
+click C_Export
+nobox
+expect-file Report/TIME.csv exists
+expect-file "Report/FULL EJ.csv" exists
+click C_View
+screen FrmReportView
+choose Cmb_File "TIME"
+picture pictures/z320/26-sales-by-hour.png
+tab Tabs 1
+picture pictures/z320/27-sales-by-hour-drawn.png
+choose Cmb_File "FULL EJ"
+click C_Next
+picture pictures/z320/28-receipt.png
+click C_Annulla
+click C_Annulla
+screen FrmSetup
 click C_Exit
 
 # A logo for the receipts, and what a receipt of the register looks like then.
@@ -132,3 +208,25 @@ click C_DepartmentProgram
 picture pictures/z300/10-departments.png
 close
 screen FrmProgramMode
+click C_PluProgram
+picture pictures/z300/18-items.png
+click C_Annulla
+click C_ClerkSystemProgram
+picture pictures/z300/21-clerks.png
+click C_Annulla
+click C_Exit
+click C_SettingMode
+click C_EJ_Setup
+expect-visible Cmb_InvoiceReceipttoEJ no
+picture pictures/z300/22-journal.png
+click C_Annulla
+click C_Exit
+click C_MessageSetup
+tab Tab_Invoice 2
+picture pictures/z300/23-captions.png
+click C_Annulla
+click C_AdvancedSetting
+tab Tab_AdvancedOption 1
+picture pictures/z300/24-keyboard.png
+click C_Annulla
+screen FrmSetup
