@@ -24,7 +24,7 @@ std::string image() {
 }
 
 std::string text_at(const TextPlace& place) {
-  return image().substr(place.field->offset_of(place.number), place.field->width);
+  return image().substr(place.field().offset_of(place.number), place.field().width);
 }
 
 }  // namespace
@@ -48,8 +48,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   require(installation.lines_in_log() == (whole ? 0U : 1U), "too many lines are logged, and nothing else is");
   for (std::size_t i = 0; i < register_language_lines; ++i) {
     const TextPlace& place = register_language_places[i];
-    const std::string expected = i < lines.size() ? padded(sostituzione_to_ecr(lines[i]), place.field->width)
-                                                  : std::string(place.field->width, untouched);
+    const std::string expected = i < lines.size() ? padded(sostituzione_to_ecr(lines[i]), place.field().width)
+                                                  : std::string(place.field().width, untouched);
     require(text_at(place) == expected, "a line fills its place, cut or padded, and no line leaves it as it was");
   }
 
