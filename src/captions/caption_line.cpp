@@ -123,7 +123,7 @@ void CaptionLine::select_mark_too() {
 
 void add_double_key(QCheckBox& box, QWidget& page) {
   const QKeySequence key{Qt::CTRL | Qt::Key_D};
-  box.setToolTip(QStringLiteral("%1 while you type").arg(key.toString(QKeySequence::NativeText)));
+  box.setToolTip(own_words(OwnText::while_you_type).arg(key.toString(QKeySequence::NativeText)));
   auto* shortcut = new QShortcut{key, &page};
   shortcut->setContext(Qt::WidgetWithChildrenShortcut);
   QObject::connect(shortcut, &QShortcut::activated, &box, [&box] {

@@ -7,6 +7,7 @@
 
 #include "captions/paper.h"
 #include "captions/scroll_message.h"
+#include "widgets/screen_text.h"
 
 namespace ecr {
 namespace {
@@ -23,7 +24,7 @@ constexpr int gap = 2;
 
 LcdPicture::LcdPicture(const QString& name, QWidget* parent) : QWidget{parent}, face_{register_face()} {
   setObjectName(name);
-  setAccessibleName(QStringLiteral("Display"));
+  setAccessibleName(own_words(OwnText::display));
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   face_.setPointSizeF(14);
   face_.setBold(true);

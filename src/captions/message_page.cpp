@@ -69,7 +69,7 @@ void MessagePage::lay_out(Captions& captions) {
   options->addWidget(speed, 1, 0);
   options->addWidget(Cmb_ScrollSpeed, 1, 1);
 
-  Captions::fix(*C_Play, "Play");
+  set_caption(*C_Play, own_words(OwnText::play));
   auto* shown = new QVBoxLayout;
   shown->setSpacing(8);
   shown->addWidget(display_);
@@ -127,7 +127,7 @@ void MessagePage::play(bool on) {
   } else {
     display_->stop();
   }
-  Captions::fix(*C_Play, on ? "Stop" : "Play");
+  set_caption(*C_Play, own_words(on ? OwnText::stop : OwnText::play));
 }
 
 void MessagePage::hideEvent(QHideEvent* event) {

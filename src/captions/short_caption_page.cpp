@@ -56,7 +56,7 @@ ShortCaptionPage::ShortCaptionPage(Captions& captions, std::function<void()> cha
 void ShortCaptionPage::lay_out() {
   // Both columns of the row that is edited are marked, not only what stands behind a number.
   FG_Caption->setItemDelegate(new QStyledItemDelegate{FG_Caption});
-  FG_Caption->setAccessibleName(QStringLiteral("Short captions"));
+  FG_Caption->setAccessibleName(own_words(OwnText::short_caption_list));
   FG_Caption->cells().resize(short_captions, columns);
   FG_Caption->cells().set_headings({QStringLiteral("Definition"), QStringLiteral("Custom Definition")});
   E_Valore->setFont(register_face());

@@ -24,26 +24,15 @@ const QString bitmap_filter = QStringLiteral("File Bitmap(*.bmp)");
 const QString journal_filter = QStringLiteral("File Journal(*.bin)");
 
 QString what_fits() {
-  return QStringLiteral(
-             "The register takes a black-and-white bitmap of exactly %1 bytes: %2 dots wide and %3 high, "
-             "one bit for each dot, without compression.")
-      .arg(logo_bitmap_size)
-      .arg(logo_dots)
-      .arg(logo_lines);
+  return own_words(OwnText::logo_that_fits).arg(logo_bitmap_size).arg(logo_dots).arg(logo_lines);
 }
 
 /// What the person should know of a bitmap that has the right length, before the conversion finds it out.
 QString note_about(const QImage& picture) {
-  if (picture.isNull()) {
-    return QStringLiteral(
-        "The file has the right length, but it cannot be shown: it may be no bitmap, and the "
-        "register's converter will refuse it.");
-  }
-  QString note = QStringLiteral("%1 dots wide and %2 high").arg(picture.width()).arg(picture.height());
-  note += picture.depth() == 1
-              ? QStringLiteral(".")
-              : QStringLiteral(", but not one bit for each dot: the register's converter will refuse it.");
-  return note;
+  if (picture.isNull()) return own_words(OwnText::logo_cannot_be_shown);
+  return own_words(picture.depth() == 1 ? OwnText::logo_size : OwnText::logo_too_many_colours)
+      .arg(picture.width())
+      .arg(picture.height());
 }
 
 }  // namespace
@@ -55,8 +44,8 @@ FrmSetLogo::FrmSetLogo()
       C_EJ{new CommandButton{QStringLiteral("C_EJ"), this}},
       C_Annulla{new CommandButton{QStringLiteral("C_Annulla"), this}},
       C_Invia_Ecr{new CommandButton{QStringLiteral("C_Invia_Ecr"), this}},
-      L_percorso{new FilePath{QStringLiteral("L_percorso"), QStringLiteral("No file chosen"), this}},
-      I_Anteprima{new PaperPreview{QStringLiteral("I_Anteprima"), QStringLiteral("The logo stands here"), this}},
+      L_percorso{new FilePath{QStringLiteral("L_percorso"), own_words(OwnText::no_file_chosen), this}},
+      I_Anteprima{new PaperPreview{QStringLiteral("I_Anteprima"), own_words(OwnText::logo_place), this}},
       L_Nota{make_label(QStringLiteral("L_Nota"), this)} {
   captions_.add(*this, Key::FRM_SET_LOGO_TITLE, "SET LOGO");
   captions_.add(*frame_.L_Titolo, Key::FRM_SET_LOGO_L_TITOLO, "SET LOGO");
@@ -64,9 +53,9 @@ FrmSetLogo::FrmSetLogo()
   Captions::fix(*C_EJ, "EJ");
   captions_.add(*C_Annulla, Key::FRM_ALL_C_ANNULLA, "Back");
   captions_.add(*C_Invia_Ecr, Key::FRM_ALL_C_INVIA_ECR, "Send to ECR");
-  C_EJ->setToolTip(QStringLiteral("Open an electronic journal file"));
-  L_percorso->setAccessibleName(QStringLiteral("Path"));
-  I_Anteprima->setAccessibleName(QStringLiteral("Preview"));
+  C_EJ->setToolTip(own_words(OwnText::open_journal));
+  L_percorso->setAccessibleName(own_words(OwnText::path));
+  I_Anteprima->setAccessibleName(own_words(OwnText::preview));
   C_Invia_Ecr->emphasise();
   lay_out();
   C_Sfoglia->on_click([this] { browse(); });
@@ -145,7 +134,7 @@ void FrmSetLogo::browse() {
   I_Anteprima->show_picture(picture);
   QString note = note_about(picture);
   if (path.contains(u' ')) {
-    note += QStringLiteral("\n\nThe path has a blank in it, so the logo cannot be sent from there.");
+    note += QStringLiteral("\n\n") + own_words(OwnText::logo_blank_in_path);
   }
   L_Nota->setText(note);
   C_Invia_Ecr->setFocus(Qt::OtherFocusReason);
@@ -160,7 +149,7 @@ void FrmSetLogo::open_journal() {
   show_path(path);
   I_Anteprima->show_picture({});
   Read_EJ(path_);
-  L_Nota->setText(QStringLiteral("A journal file of %1 records.").arg(Ej.Records.size()));
+  L_Nota->setText(own_words(OwnText::journal_records).arg(Ej.Records.size()));
 }
 
 void FrmSetLogo::send() {

@@ -6,6 +6,7 @@
 
 #include "core/decimal.h"
 #include "core/fault.h"
+#include "lang/own_texts.h"
 #include "reports/report_names.h"
 #include "reports/report_table.h"
 
@@ -14,19 +15,23 @@ namespace {
 
 struct Named {
   const char* column;
-  const char* name;
+  OwnText name;
+  const char* number = "";
 };
 
 // clang-format off
 constexpr Named media[] = {
-    {"CashTotal", "Cash"}, {"CheckTotal", "Check"}, {"ChargeTotal", "Charge"}, {"Credit1Total", "Credit 1"},
-    {"Credit2Total", "Credit 2"}, {"Credit3Total", "Credit 3"}, {"Credit4Total", "Credit 4"},
-    {"Credit5Total", "Credit 5"}, {"Credit6Total", "Credit 6"}};
+    {"CashTotal", OwnText::cash}, {"CheckTotal", OwnText::check}, {"ChargeTotal", OwnText::charge},
+    {"Credit1Total", OwnText::credit_number, "1"}, {"Credit2Total", OwnText::credit_number, "2"},
+    {"Credit3Total", OwnText::credit_number, "3"}, {"Credit4Total", OwnText::credit_number, "4"},
+    {"Credit5Total", OwnText::credit_number, "5"}, {"Credit6Total", OwnText::credit_number, "6"}};
 constexpr Named rates[] = {
-    {"Tax1Amount", "VAT 1"}, {"Tax2Amount", "VAT 2"}, {"Tax3Amount", "VAT 3"}, {"Tax4Amount", "VAT 4"}};
+    {"Tax1Amount", OwnText::vat_number, "1"}, {"Tax2Amount", OwnText::vat_number, "2"},
+    {"Tax3Amount", OwnText::vat_number, "3"}, {"Tax4Amount", OwnText::vat_number, "4"}};
 constexpr Named drawer[] = {
-    {"CashInDrawerTotal", "Cash"}, {"CheckInDrawerTotal", "Check"}, {"ChergeInDrawerTotal", "Charge"},
-    {"Credit1InDrawerTotal", "Credit 1"}, {"Credit2InDrawerTotal", "Credit 2"}};
+    {"CashInDrawerTotal", OwnText::cash}, {"CheckInDrawerTotal", OwnText::check},
+    {"ChergeInDrawerTotal", OwnText::charge}, {"Credit1InDrawerTotal", OwnText::credit_number, "1"},
+    {"Credit2InDrawerTotal", OwnText::credit_number, "2"}};
 // clang-format on
 
 double worth(const std::string& text) {
@@ -49,11 +54,11 @@ std::string cell(const CsvExport& exported, const std::vector<std::string>& row,
 }
 
 template <std::size_t N>
-Chart totals(const char* title, const Named (&names)[N], const CsvExport& exported) {
-  Chart chart{title, Chart::Kind::bars, {}};
+Chart totals(OwnText title, const Named (&names)[N], const CsvExport& exported) {
+  Chart chart{own_bytes(title), Chart::Kind::bars, {}};
   for (const Named& named : names) {
     const std::string text = cell(exported, exported.rows.front(), named.column);
-    if (is_some_number(text)) chart.points.push_back(point(named.name, text));
+    if (is_some_number(text)) chart.points.push_back(point(own_bytes(named.name, named.number), text));
   }
   return chart;
 }
@@ -63,8 +68,8 @@ void sort_by_value(Chart& chart) {
                    [](const auto& left, const auto& right) { return left.value > right.value; });
 }
 
-Chart hours(const char* title, Chart::Kind kind, const CsvExport& exported, std::string_view heading) {
-  Chart chart{title, kind, {}};
+Chart hours(OwnText title, Chart::Kind kind, const CsvExport& exported, std::string_view heading) {
+  Chart chart{own_bytes(title), kind, {}};
   for (std::size_t i = 0; i < exported.rows.size(); ++i) {
     chart.points.push_back(point(std::to_string(i), cell(exported, exported.rows[i], heading)));
   }
@@ -72,13 +77,13 @@ Chart hours(const char* title, Chart::Kind kind, const CsvExport& exported, std:
 }
 
 Chart departments(const CsvExport& exported) {
-  Chart chart{"Sales by department", Chart::Kind::bars, {}};
+  Chart chart{own_bytes(OwnText::sales_by_department), Chart::Kind::bars, {}};
   for (const auto& row : exported.rows) {
     const std::string total = cell(exported, row, "RegSalesTotal");
     if (!is_some_number(total)) continue;
     const std::string number = cell(exported, row, "DeptNumber");
     const std::string name = department_name(static_cast<int>(leading_number(number)));
-    chart.points.push_back(point(name.empty() ? "Department " + number : name, total));
+    chart.points.push_back(point(name.empty() ? own_bytes(OwnText::department_number, number) : name, total));
   }
   sort_by_value(chart);
   if (chart.points.size() > most_bars) chart.points.resize(most_bars);
@@ -86,10 +91,10 @@ Chart departments(const CsvExport& exported) {
 }
 
 Chart clerks(const CsvExport& exported) {
-  Chart chart{"Net sales by clerk", Chart::Kind::bars, {}};
+  Chart chart{own_bytes(OwnText::net_sales_by_clerk), Chart::Kind::bars, {}};
   for (const auto& row : exported.rows) {
     const std::string total = cell(exported, row, "NetSalesTotal");
-    if (is_some_number(total)) chart.points.push_back(point("Clerk " + row.front(), total));
+    if (is_some_number(total)) chart.points.push_back(point(own_bytes(OwnText::clerk_number, row.front()), total));
   }
   return chart;
 }
@@ -121,11 +126,11 @@ std::vector<Chart> sellers(const CsvExport& exported) {
   sort_by_value(all);
   if (all.points.empty()) return {};
   Chart best = all;
-  best.title = "Best sellers";
+  best.title = own_bytes(OwnText::best_sellers);
   best.points.resize(std::min(best.points.size(), sellers_shown));
   // Of the items that were sold at all; the least first.
   Chart worst = std::move(all);
-  worst.title = "Worst sellers";
+  worst.title = own_bytes(OwnText::worst_sellers);
   std::reverse(worst.points.begin(), worst.points.end());
   worst.points.resize(std::min(worst.points.size(), sellers_shown));
   return {std::move(best), std::move(worst)};
@@ -138,12 +143,12 @@ std::vector<Chart> report_charts(std::uint8_t number, const CsvExport& exported)
   std::vector<Chart> charts;
   switch (number) {
     case 3:
-      charts = {totals("In the drawer", drawer, exported)};
+      charts = {totals(OwnText::in_the_drawer, drawer, exported)};
       break;
     case 4:
     case 13:
     case 14:
-      charts = {totals("Sales by payment medium", media, exported), totals("VAT by rate", rates, exported)};
+      charts = {totals(OwnText::sales_by_medium, media, exported), totals(OwnText::vat_by_rate, rates, exported)};
       break;
     case 5:
     case 6:
@@ -158,8 +163,8 @@ std::vector<Chart> report_charts(std::uint8_t number, const CsvExport& exported)
       charts = {clerks(exported)};
       break;
     case 12:
-      charts = {hours("Sales by hour", Chart::Kind::columns, exported, "SalesTotal"),
-                hours("Receipts by hour", Chart::Kind::line, exported, "SalesCount")};
+      charts = {hours(OwnText::sales_by_hour, Chart::Kind::columns, exported, "SalesTotal"),
+                hours(OwnText::receipts_by_hour, Chart::Kind::line, exported, "SalesCount")};
       break;
     default:
       break;

@@ -108,7 +108,7 @@ FrmReportExport::FrmReportExport()
   captions_.add(*C_Annulla, Key::FRM_ALL_C_ANNULLA, "Back");
   captions_.add(*C_Salva, Key::FRM_REPORT_EXPORT_C_SALVA, "Save Setting");
   captions_.add(*C_Export, Key::FRM_REPORT_EXPORT_C_EXPORT, "Export");
-  Captions::fix(*C_View, "View");
+  set_caption(*C_View, own_words(OwnText::view));
   C_Export->emphasise();
   C_Annulla->on_click([this] { unload(); });
   C_View->on_click([this] { open(new FrmReportView); });

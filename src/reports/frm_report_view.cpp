@@ -58,24 +58,24 @@ FrmReportView::FrmReportView()
   L_Filter = make_label(QStringLiteral("L_Filter"), this, E_Filter);
   Chk_Figures->setObjectName(QStringLiteral("Chk_Figures"));
   Tabs->setObjectName(QStringLiteral("Tabs"));
-  Tabs->setAccessibleName(QStringLiteral("Ways to look at the report"));
-  Captions::fix(*this, "Report viewer");
-  Captions::fix(*frame_.L_Titolo, "Report viewer");
-  Captions::fix(*L_File, "Report");
-  Captions::fix(*L_Export, "Export");
-  Captions::fix(*L_Filter, "Find");
-  Captions::fix(*Chk_Figures, "Only rows with figures");
-  Captions::fix(*C_Previous, "Previous");
-  Captions::fix(*C_Next, "Next");
+  Tabs->setAccessibleName(own_words(OwnText::ways_to_look));
+  set_caption(*this, own_words(OwnText::report_viewer));
+  set_caption(*frame_.L_Titolo, own_words(OwnText::report_viewer));
+  set_caption(*L_File, own_words(OwnText::report));
+  set_caption(*L_Export, own_words(OwnText::export_of_file));
+  set_caption(*L_Filter, own_words(OwnText::find));
+  set_caption(*Chk_Figures, own_words(OwnText::only_rows_with_figures));
+  set_caption(*C_Previous, own_words(OwnText::previous));
+  set_caption(*C_Next, own_words(OwnText::next));
   captions_.add(*C_Annulla, Key::FRM_ALL_C_ANNULLA, "Back");
   Captions::fix(*C_Pdf, "PDF...");
-  Captions::fix(*C_Print, "Print...");
+  set_caption(*C_Print, own_words(OwnText::print));
   make_hint(*L_Rows);
   make_hint(*L_Receipt);
 
   set_up_table();
   T_Receipt->setObjectName(QStringLiteral("T_Receipt"));
-  T_Receipt->setAccessibleName(QStringLiteral("The receipt"));
+  T_Receipt->setAccessibleName(own_words(OwnText::the_receipt));
   T_Receipt->setReadOnly(true);
   QFont paper = QFontDatabase::systemFont(QFontDatabase::FixedFont);
   paper.setPointSizeF(11);
@@ -109,7 +109,7 @@ void FrmReportView::set_up_table() {
     view->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
   }
   Fg_Report->setObjectName(QStringLiteral("Fg_Report"));
-  Fg_Report->setAccessibleName(QStringLiteral("The report as a table"));
+  Fg_Report->setAccessibleName(own_words(OwnText::report_as_table));
   Fg_Report->setSelectionBehavior(QAbstractItemView::SelectRows);
   Fg_Report->setSelectionMode(QAbstractItemView::SingleSelection);
   Fg_Report->setAlternatingRowColors(true);
@@ -131,7 +131,7 @@ void FrmReportView::set_up_table() {
   bold.setBold(true);
   Fg_Sums->setFont(bold);
   Fg_Sums->setObjectName(QStringLiteral("Fg_Sums"));
-  Fg_Sums->setAccessibleName(QStringLiteral("Sums of the rows on show"));
+  Fg_Sums->setAccessibleName(own_words(OwnText::sums_of_rows));
   Fg_Sums->setFocusPolicy(Qt::NoFocus);
   Fg_Sums->setSelectionMode(QAbstractItemView::NoSelection);
   Fg_Sums->horizontalHeader()->hide();
@@ -166,14 +166,14 @@ void FrmReportView::lay_out() {
   rows->setSpacing(4);
   rows->addWidget(Fg_Report, 1);
   rows->addWidget(Fg_Sums);
-  Tabs->addTab(table, QStringLiteral("Table"));
+  Tabs->addTab(table, own_words(OwnText::table));
   auto* pictures = new QScrollArea;
   pictures->setObjectName(QStringLiteral("S_Charts"));
-  pictures->setAccessibleName(QStringLiteral("The report as pictures"));
+  pictures->setAccessibleName(own_words(OwnText::report_as_pictures));
   pictures->setWidgetResizable(true);
   pictures->setFrameShape(QFrame::NoFrame);
   pictures->setWidget(P_Charts);
-  Tabs->addTab(pictures, QStringLiteral("Pictures"));
+  Tabs->addTab(pictures, own_words(OwnText::pictures));
   auto* receipt = new QWidget;
   receipt->setObjectName(QStringLiteral("F_Receipt"));
   auto* paper = new QVBoxLayout{receipt};
@@ -188,7 +188,7 @@ void FrmReportView::lay_out() {
   constexpr int characters = 34;
   T_Receipt->setFixedWidth(T_Receipt->fontMetrics().averageCharWidth() * characters);
   paper->addWidget(T_Receipt, 1, Qt::AlignHCenter);
-  Tabs->addTab(receipt, QStringLiteral("Receipts"));
+  Tabs->addTab(receipt, own_words(OwnText::receipts));
   frame_.body->addWidget(Tabs, 1);
 
   auto* bar = new QHBoxLayout;
@@ -249,7 +249,7 @@ void FrmReportView::show_file() {
   }
   QStringList entries;
   for (std::size_t i = 0; i < exports_.size(); ++i) {
-    entries << QStringLiteral("%1 of %2").arg(i + 1).arg(exports_.size());
+    entries << own_words(OwnText::one_of_several).arg(i + 1).arg(exports_.size());
   }
   Cmb_Export->fill(entries);
   // The last one is what was read from the register last.
@@ -291,11 +291,11 @@ void FrmReportView::apply_wishes() {
   C_Print->setEnabled(anything);
   C_Pdf->setEnabled(anything);
   if (files_.empty()) {
-    L_Rows->setText(QStringLiteral("No report has been exported yet."));
+    L_Rows->setText(own_words(OwnText::nothing_exported));
   } else if (is_journal(number_)) {
     L_Rows->setText({});
   } else {
-    L_Rows->setText(QStringLiteral("%1 of %2 rows").arg(model_.rows_shown()).arg(model_.table().rows.size()));
+    L_Rows->setText(own_words(OwnText::rows_shown).arg(model_.rows_shown()).arg(model_.table().rows.size()));
   }
 }
 
@@ -314,11 +314,11 @@ void FrmReportView::page_to(int receipt) {
   const CsvExport* exported = chosen(exports_, Cmb_Export->currentIndex());
   if (count == 0 || exported == nullptr) {
     T_Receipt->clear();
-    L_Receipt->setText(E_Filter->text().isEmpty() ? QStringLiteral("No receipt") : QStringLiteral("Not found"));
+    L_Receipt->setText(E_Filter->text().isEmpty() ? own_words(OwnText::no_receipt) : own_words(OwnText::not_found));
     return;
   }
   T_Receipt->setPlainText(screen_text(receipt_text(*exported, receipts_[static_cast<std::size_t>(receipt_)])));
-  L_Receipt->setText(QStringLiteral("Receipt %1 of %2").arg(receipt_ + 1).arg(count));
+  L_Receipt->setText(own_words(OwnText::receipt_of_several).arg(receipt_ + 1).arg(count));
 }
 
 PrintedReport FrmReportView::printed() const {
@@ -343,20 +343,20 @@ void FrmReportView::print() {
   QPrintDialog dialog{&printer, this};
   if (dialog.exec() != QDialog::Accepted) return;
   const BusyPointer busy;
-  if (!print_report(printer, printed())) tell(BoxKind::critical, "The report could not be printed.");
+  if (!print_report(printer, printed())) tell(BoxKind::critical, own_bytes(OwnText::not_printed));
 }
 
 void FrmReportView::save_pdf() {
   const QString offered = path_for_toolkit(host_path(Global::PathReport)) + file_name() + QStringLiteral(".pdf");
   const QString file =
-      QFileDialog::getSaveFileName(this, QStringLiteral("Save as PDF"), offered, QStringLiteral("PDF (*.pdf)"));
+      QFileDialog::getSaveFileName(this, own_words(OwnText::save_as_pdf), offered, QStringLiteral("PDF (*.pdf)"));
   if (file.isEmpty()) return;
   const BusyPointer busy;
   QPrinter printer{QPrinter::HighResolution};
   printer.setOutputFormat(QPrinter::PdfFormat);
   printer.setDocName(file_name());
   printer.setOutputFileName(file);
-  if (!print_report(printer, printed())) tell(BoxKind::critical, "The file could not be written.");
+  if (!print_report(printer, printed())) tell(BoxKind::critical, own_bytes(OwnText::not_written));
 }
 
 }  // namespace ecr

@@ -37,7 +37,7 @@ void ReportModel::arrange() {
   for (std::size_t i = 0; i < table_.columns.size(); ++i) {
     sums_.push_back(table_.columns[i].is_summed ? column_sum(table_, i, rows_) : std::string{});
   }
-  if (sums_.front().empty()) sums_.front() = "Sum";
+  if (sums_.front().empty()) sums_.front() = own_bytes(OwnText::sum);
 }
 
 QString ReportModel::sum(int column) const {

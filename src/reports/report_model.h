@@ -23,7 +23,7 @@ class ReportModel : public QAbstractTableModel {
   /// Rows of the report that are on show.
   [[nodiscard]] int rows_shown() const { return static_cast<int>(rows_.size()); }
   [[nodiscard]] bool has_sums() const { return !sums_.empty(); }
-  /// What stands below a column: its sum, "Sum" below the first one, or nothing.
+  /// What stands below a column: its sum, the word for it below the first one, or nothing.
   [[nodiscard]] QString sum(int column) const;
 
   [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;

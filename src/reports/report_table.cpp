@@ -8,6 +8,7 @@
 #include "core/decimal.h"
 #include "core/fault.h"
 #include "core/text.h"
+#include "lang/own_texts.h"
 #include "reports/layout.h"
 #include "reports/report_names.h"
 
@@ -80,12 +81,12 @@ ReportTable upright(std::uint8_t number, const CsvExport& exported) {
   const std::size_t first = is_clerk_report(number) ? 1 : 0;
   ReportTable table;
   const bool has_sum = exported.rows.size() > 1;
-  table.columns.push_back({"Total"});
-  if (has_sum) table.columns.push_back({"Sum", true, false, true});
+  table.columns.push_back({own_bytes(OwnText::total)});
+  if (has_sum) table.columns.push_back({own_bytes(OwnText::sum), true, false, true});
   for (std::size_t i = 0; i < exported.rows.size(); ++i) {
     const std::string& head = exported.rows[i][0];
-    table.columns.push_back({first == 1                  ? "Clerk " + head
-                             : exported.rows.size() == 1 ? "Value"
+    table.columns.push_back({first == 1                  ? own_bytes(OwnText::clerk_number, head)
+                             : exported.rows.size() == 1 ? own_bytes(OwnText::value)
                                                          : std::to_string(i + 1),
                              true, false, true});
   }
@@ -100,9 +101,9 @@ ReportTable upright(std::uint8_t number, const CsvExport& exported) {
 
 /// Puts a column of looked-up texts behind `place` columns.
 template <typename TextOf>
-void insert_column(ReportTable& table, std::size_t place, const char* heading, const TextOf& text_of) {
+void insert_column(ReportTable& table, std::size_t place, OwnText heading, const TextOf& text_of) {
   const auto at = [place](auto& list) { return list.begin() + static_cast<std::ptrdiff_t>(place); };
-  table.columns.insert(at(table.columns), {heading});
+  table.columns.insert(at(table.columns), {own_bytes(heading)});
   for (std::size_t i = 0; i < table.rows.size(); ++i) {
     table.rows[i].insert(at(table.rows[i]), text_of(i, table.rows[i]));
   }
@@ -167,17 +168,17 @@ ReportTable report_table(std::uint8_t number, const CsvExport& exported) {
   }
   if (layout == nullptr) return table;
   if (number == 5 || number == 6) {
-    insert_column(table, 2, "Department", [](std::size_t, const auto& row) {
+    insert_column(table, 2, OwnText::department, [](std::size_t, const auto& row) {
       return department_name(static_cast<int>(leading_number(row[1])));
     });
   } else if (number == 7) {
     const auto names = item_names();
-    insert_column(table, 1, "Item", [&names](std::size_t, const auto& row) {
+    insert_column(table, 1, OwnText::item, [&names](std::size_t, const auto& row) {
       const auto found = names.find(row[0]);
       return found == names.end() ? std::string{} : found->second;
     });
   } else if (number == 12) {
-    insert_column(table, 0, "Hour", [](std::size_t i, const auto&) { return hour_text(i); });
+    insert_column(table, 0, OwnText::hour, [](std::size_t i, const auto&) { return hour_text(i); });
   }
   return table;
 }

@@ -130,7 +130,6 @@ void FrmPres::load() {
   Os64Bit = Get_OsBits();
   memo_log("Start Programm " + Global::ProgramVersion + " So: " + OsVersion + "." +
            std::to_string(system_layer().build_number()) + (Os64Bit ? " x64" : " x86"));
-  show_linked_register();
   carica_messaggi();
 }
 
@@ -144,6 +143,7 @@ void FrmPres::first_discovery() {
 
 void FrmPres::carica_messaggi() {
   captions_.lay();
+  show_linked_register();
   I_lingua->show_file(QString::fromUtf8(FlagPicture.c_str()), {36, 24});
 }
 
@@ -204,9 +204,7 @@ void FrmPres::show_colour(PortColour colour) {
 void FrmPres::show_linked_register() {
   const std::string model = emulated_model();
   L_Emulated->setVisible(!model.empty());
-  L_Emulated->setText(
-      QStringLiteral("An emulated register, a %1, came with the program. F1 tells how to link a real one.")
-          .arg(screen_text(model)));
+  L_Emulated->setText(own_words(OwnText::emulated_register).arg(screen_text(model)));
 }
 
 }  // namespace ecr

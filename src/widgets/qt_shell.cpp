@@ -108,7 +108,7 @@ void QtShell::pointer(Pointer pointer) {
 
 void QtShell::run_beside(std::string_view what, Waiting waiting, const std::function<void()>& job) {
   std::unique_ptr<WaitPanel> panel;
-  if (waiting == Waiting::modal) panel = std::make_unique<WaitPanel>(window_, screen_text(what), 0);
+  if (waiting == Waiting::modal) panel = std::make_unique<WaitPanel>(window_, screen_text(own_bytes_of_work(what)), 0);
   QEventLoop loop;
   std::atomic<bool> done = false;
   std::thread worker{[&] {
@@ -124,7 +124,7 @@ void QtShell::run_beside(std::string_view what, Waiting waiting, const std::func
 void QtShell::wait_until(std::string_view what, double seconds, const std::function<bool()>& done) {
   QCoreApplication::processEvents();
   if (done()) return;
-  const WaitPanel panel{window_, screen_text(what), seconds};
+  const WaitPanel panel{window_, screen_text(own_bytes_of_work(what)), seconds};
   QEventLoop loop;
   QTimer turn;
   QObject::connect(&turn, &QTimer::timeout, &loop, [&] {

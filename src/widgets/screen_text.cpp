@@ -10,6 +10,11 @@ QString screen_text(std::string_view bytes) {
   return text;
 }
 
+QString own_words(OwnText text) {
+  const std::string_view utf8 = own_text(text);
+  return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
 QString field_text(std::string_view bytes) {
   const std::u16string unicode = unicode_of(bytes);
   return QString::fromUtf16(unicode.data(), static_cast<qsizetype>(unicode.size()));

@@ -7,11 +7,15 @@
 #include <QString>
 
 #include "core/code_page.h"
+#include "lang/own_texts.h"
 
 namespace ecr {
 
 /// Bytes of the code page as screen text; a carriage return, with or without a line feed, is a line break.
 [[nodiscard]] QString screen_text(std::string_view bytes);
+
+/// A built-in text in the chosen language.
+[[nodiscard]] QString own_words(OwnText text);
 
 /// Bytes of the code page as a field holds them, one character each: page_bytes gives the same bytes back.
 [[nodiscard]] QString field_text(std::string_view bytes);

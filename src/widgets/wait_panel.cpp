@@ -10,6 +10,8 @@
 #include <QProgressBar>
 #include <QVBoxLayout>
 
+#include "widgets/screen_text.h"
+
 namespace ecr {
 namespace {
 
@@ -78,7 +80,7 @@ WaitPanel::WaitPanel(QWidget& window, const QString& what, double seconds) : QWi
     if (!steps->what_.isEmpty()) what_->setText(steps->what_);
     bar_->setRange(0, steps->steps_);
     bar_->setValue(steps->begun_ - 1);
-    rest_->setText(tr("%1 of %2").arg(steps->begun_).arg(steps->steps_));
+    rest_->setText(own_words(OwnText::one_of_several).arg(steps->begun_).arg(steps->steps_));
     rest_->setVisible(true);
     shown_after = static_cast<int>(std::max<qint64>(0, shown_after_ms - steps->elapsed_.elapsed()));
   }
@@ -125,7 +127,7 @@ void WaitPanel::show_progress() {
   const double passed = static_cast<double>(elapsed_.elapsed()) / 1000;
   bar_->setValue(static_cast<int>(std::min(passed, seconds_) * 1000));
   const int left = static_cast<int>(std::ceil(std::max(0.0, seconds_ - passed)));
-  rest_->setText(tr("%1:%2 left").arg(left / 60).arg(left % 60, 2, 10, QLatin1Char('0')));
+  rest_->setText(own_words(OwnText::time_left).arg(left / 60).arg(left % 60, 2, 10, QLatin1Char('0')));
 }
 
 }  // namespace ecr

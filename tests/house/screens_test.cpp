@@ -11,6 +11,7 @@
 #include "core/catalogue.h"
 #include "core/global.h"
 #include "house/screen_check.h"
+#include "image/side_files.h"
 #include "lang/language.h"
 #include "screens/frm_pres.h"
 #include "screens/frm_principale.h"
@@ -50,6 +51,14 @@ class EveryScreen : public ScreenTest, public ::testing::WithParamInterface<std:
     for (const QString& complaint : check(screen)) ADD_FAILURE() << complaint.toStdString() << ", " << when;
   }
 
+  /// The language that a file belongs to; what is built in without any is English.
+  static std::uint8_t number_of(std::string_view file) {
+    for (std::size_t i = 0; i < languages.size(); ++i) {
+      if (languages[i].file == file) return static_cast<std::uint8_t>(i);
+    }
+    return 0;
+  }
+
   /// Runs the check in each of the ways in which the screen can be seen: with the built-in captions and in English.
   void look_in_every_way(const Check& check) {
     look({"", "FrmDescEng.txt"}, {Global::model_z300, Global::model_z320}, check);
@@ -59,6 +68,7 @@ class EveryScreen : public ScreenTest, public ::testing::WithParamInterface<std:
     for (const std::string_view file : files) {
       reset_catalogue();
       ASSERT_TRUE(file.empty() || read_language_file(file));
+      LanguageNumber = number_of(file);
       for (const auto model : models) {
         for (const QSize size : {QSize{1024, 700}, QSize{900, 600}}) {
           start_session(model);
@@ -84,6 +94,7 @@ class EveryScreen : public ScreenTest, public ::testing::WithParamInterface<std:
         }
       }
     }
+    LanguageNumber = 0;
   }
 };
 

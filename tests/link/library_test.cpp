@@ -13,6 +13,8 @@
 #include "core/files.h"
 #include "core/global.h"
 #include "core/text.h"
+#include "image/side_files.h"
+#include "lang/own_texts.h"
 #include "link/tilbridge2.h"
 #include "platform/platform.h"
 #include "support/fake_system.h"
@@ -129,6 +131,19 @@ TEST_F(LinkCalls, NameWhatIsGoingOn) {
   util_get_range_report(Global::PathApp, 5, code, 120, 1, 99, 4);
   util_send_logo_to_ecr(Global::PathApp, "", "", code, 60);
   EXPECT_EQ(shell.waits, (Lines{"Reading the report RANGE DEPT", "Converting the logo"}));
+}
+
+// The card of a wait finds the words of another language by the English ones.
+TEST_F(LinkCalls, NameWhatIsGoingOnInWordsThatEveryLanguageKnows) {
+  link();
+  for (int file = 0; file < 256; ++file) {
+    send_cmd(Direction::upload, static_cast<std::uint8_t>(file));
+    send_cmd(Direction::download, static_cast<std::uint8_t>(file));
+  }
+  util_send_logo_to_ecr(Global::PathApp, "", "", code, 60);
+  ASSERT_EQ(shell.waits.size(), 513U);
+  LanguageNumber = 3;
+  for (const std::string& what : shell.waits) EXPECT_NE(own_bytes_of_work(what), what);
 }
 
 TEST_F(LinkCalls, TakeNoInputUnlessTheyAreMadeInTheBackground) {

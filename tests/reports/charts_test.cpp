@@ -4,6 +4,7 @@
 
 #include "image/prg_mode.h"
 #include "image/prg_plu.h"
+#include "image/side_files.h"
 #include "report_test.h"
 
 namespace ecr::test {
@@ -36,6 +37,20 @@ TEST_F(Charts, SalesAndReceiptsByHour) {
   EXPECT_EQ(charts[0].points[9].value, 12.5);
   EXPECT_EQ(charts[1].kind, Chart::Kind::line);
   EXPECT_EQ(charts[1].points[9].value, 4);
+}
+
+TEST_F(Charts, SpeakTheChosenLanguage) {
+  std::string totals(568, '\0');
+  totals.replace(254, 8, packed("5000", 8));
+  totals.replace(334, 8, packed("250", 8));
+  const std::string department = std::string(1, '\0') + '\3' + std::string(6, '\0') + packed("900", 8);
+  LanguageNumber = 5;
+  const auto financial = charts_of(4, totals);
+  EXPECT_EQ(financial.at(0).title, "Vendas por meio de pagamento");
+  EXPECT_EQ(points(financial.at(0)), "Numer\xE1rio=50.00 Cart\xE3o 6=2.50 ") << "bytes of the code page";
+  const auto departments = charts_of(5, department);
+  EXPECT_EQ(departments.at(0).title, "Vendas por sec\xE7\xE3o");
+  EXPECT_EQ(points(departments.at(0)), "Sec\xE7\xE3o 3=9.00 ");
 }
 
 TEST_F(Charts, DepartmentsByTheirNamesTheLargestFirst) {

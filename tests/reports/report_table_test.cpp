@@ -7,6 +7,7 @@
 
 #include "image/prg_mode.h"
 #include "image/prg_plu.h"
+#include "image/side_files.h"
 #include "report_test.h"
 #include "support/random.h"
 
@@ -68,6 +69,13 @@ TEST_F(ReportTableTest, HoursHaveTheirTime) {
   const ReportTable table = table_of(12, packed("3", 2) + packed("450", 8));
   EXPECT_EQ(table.rows[0], (Cells{"00:00", "3", "4.50"}));
   EXPECT_EQ(table.rows[23], (Cells{"23:00", "0", "0.00"}));
+}
+
+TEST_F(ReportTableTest, ItsOwnHeadingsAreInTheChosenLanguageAndThoseOfTheFileAreNot) {
+  LanguageNumber = 3;
+  EXPECT_EQ(headings(table_of(5, department(5, "15000", "1250"))),
+            (Cells{"DeptGroupNumber", "DeptNumber", "Warengruppe", "DeptItemCounter", "RegSalesTotal"}));
+  EXPECT_EQ(headings(table_of(12, std::string(240, '\0'))).front(), "Stunde");
 }
 
 TEST_F(ReportTableTest, RecordsOfTotalsStandUpright) {

@@ -10,6 +10,7 @@
 #include <QTimer>
 
 #include "core/global.h"
+#include "image/side_files.h"
 #include "reports/chart_view.h"
 #include "reports/layout.h"
 #include "support_qt/screen_test.h"
@@ -48,6 +49,20 @@ TEST_F(FrmReportViewTest, WithoutAnyReportItSaysSo) {
   EXPECT_FALSE(button("C_Print").isEnabled());
   EXPECT_FALSE(button("C_Pdf").isEnabled());
   EXPECT_TRUE(log().empty());
+}
+
+TEST_F(FrmReportViewTest, SpeaksTheChosenLanguageInEveryTextOfItsOwn) {
+  write_hours();
+  LanguageNumber = 1;
+  open_viewer();
+  EXPECT_EQ(caption("L_File"), QStringLiteral("Informe"));
+  EXPECT_EQ(caption("L_Rows"), QStringLiteral("2 de 24 filas"));
+  EXPECT_EQ(cell(0, 0), QStringLiteral("09:00"));
+  EXPECT_EQ(sum(0), QStringLiteral("Suma"));
+  EXPECT_EQ(tabs().tabText(0), QStringLiteral("Tabla"));
+  EXPECT_EQ(table().accessibleName(), QStringLiteral("El informe como tabla"));
+  EXPECT_EQ(control<ChartView>("P_Charts").accessibleName(), QStringLiteral("Ventas por hora, Tiques por hora"));
+  EXPECT_EQ(button("C_Pdf").text(), QStringLiteral("PDF..."));
 }
 
 TEST_F(FrmReportViewTest, ListsTheFilesThatHoldSomething) {

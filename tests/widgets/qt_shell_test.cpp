@@ -12,6 +12,7 @@
 #include <QTest>
 
 #include "core/catalogue.h"
+#include "image/side_files.h"
 #include "widgets/plain_screen.h"
 #include "widgets/real_shell.h"
 #include "widgets/wait_panel.h"
@@ -371,6 +372,28 @@ TEST_F(QtShellTest, ALongerWaitShowsWhatGoesOnAfterAMoment) {
   EXPECT_EQ(what, QStringLiteral("The register is taking in the items"));
   EXPECT_EQ(most, 60'000);
   EXPECT_TRUE(rest == QStringLiteral("1:00 left") || rest == QStringLiteral("0:59 left")) << qPrintable(rest);
+}
+
+TEST_F(QtShellTest, AWaitIsNamedInTheChosenLanguage) {
+  LanguageNumber = 3;
+  QString what;
+  real.wait_until("The register is taking in the changed items", 60, [&] {
+    if (panel_is_up()) what = panel()->findChild<QLabel*>(QStringLiteral("WaitWhat"))->text();
+    return !what.isEmpty();
+  });
+  LanguageNumber = 0;
+  EXPECT_EQ(what, QStringLiteral("Die Kasse übernimmt die geänderten Artikel"));
+}
+
+TEST_F(QtShellTest, AWaitTellsItsRestInTheChosenLanguage) {
+  LanguageNumber = 6;
+  QString rest;
+  real.wait_until("a wait", 60, [&] {
+    if (panel_is_up()) rest = panel()->findChild<QLabel*>(QStringLiteral("WaitRest"))->text();
+    return !rest.isEmpty();
+  });
+  LanguageNumber = 0;
+  EXPECT_TRUE(rest == QStringLiteral("1:00 tilbage") || rest == QStringLiteral("0:59 tilbage")) << qPrintable(rest);
 }
 
 TEST_F(QtShellTest, AWaitOfUnknownLengthRunsToAndFro) {
