@@ -265,10 +265,12 @@ void FrmReportView::show_export() {
   Fg_Report->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
   Fg_Report->setSortingEnabled(true);
   P_Charts->show_charts(exported == nullptr ? std::vector<Chart>{} : report_charts(number_, *exported));
+  // A tab that goes hands its place to whichever is beside it.
+  const int in_front = Tabs->currentIndex();
   Tabs->setTabVisible(table_tab, !journal);
   Tabs->setTabVisible(picture_tab, !P_Charts->charts().empty());
   Tabs->setTabVisible(receipt_tab, journal);
-  if (!Tabs->isTabVisible(Tabs->currentIndex())) Tabs->setCurrentIndex(journal ? receipt_tab : table_tab);
+  if (!Tabs->isTabVisible(in_front)) Tabs->setCurrentIndex(journal ? receipt_tab : table_tab);
   Chk_Figures->setVisible(!journal);
   apply_wishes();
   Fg_Report->resizeColumnsToContents();

@@ -208,6 +208,17 @@ TEST_F(FrmReportViewTest, AJournalIsPagedThroughReceiptByReceipt) {
   EXPECT_EQ(paper.toPlainText(), QString{});
 }
 
+TEST_F(FrmReportViewTest, BehindAJournalAReportIsATableFirst) {
+  write_hours();
+  write("Report/FULL EJ.csv", "LineFromEj\r\nTEA\r\n");
+  open_viewer();
+  pick(list("Cmb_File"), list("Cmb_File").findText(QStringLiteral("FULL EJ")));
+  EXPECT_EQ(tabs().currentIndex(), 2);
+  pick(list("Cmb_File"), list("Cmb_File").findText(QStringLiteral("TIME")));
+  EXPECT_TRUE(tabs().isTabVisible(1));
+  EXPECT_EQ(tabs().currentIndex(), 0);
+}
+
 TEST_F(FrmReportViewTest, AFileThatVanishesIsLoggedAndShownAsEmpty) {
   write_hours();
   write("Report/notes.csv", "A;B\r\n1;2\r\n");
