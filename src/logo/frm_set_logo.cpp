@@ -129,8 +129,7 @@ void FrmSetLogo::browse() {
     return;
   }
   show_path(path);
-  const QImage picture =
-      QImage::fromData(QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size())), "BMP");
+  const QImage picture = picture_of_bitmap(bytes);
   I_Anteprima->show_picture(picture);
   QString note = note_about(picture);
   if (path.contains(u' ')) {

@@ -50,6 +50,14 @@ QPainterPath strip(const QRectF& place) {
 
 }  // namespace
 
+QImage picture_of_bitmap(std::string_view bytes) {
+  QImage picture = QImage::fromData(QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size())), "BMP");
+  // A file may name fewer colours than its dots use. The toolkit looks such a dot up behind the end of the table.
+  const int every_colour = picture.isNull() || picture.depth() > 8 ? 0 : 1 << picture.depth();
+  if (picture.colorCount() < every_colour) picture.setColorCount(every_colour);
+  return picture;
+}
+
 PaperPreview::PaperPreview(const QString& name, QString hint, QWidget* parent)
     : QLabel{parent}, hint_{std::move(hint)} {
   setObjectName(name);

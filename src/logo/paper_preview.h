@@ -1,11 +1,17 @@
 #pragma once
 // The chosen picture as it will look on paper: at the head of a receipt, dot for dot where there is room.
 
+#include <string_view>
+
 #include <QImage>
 #include <QLabel>
 #include <QString>
 
 namespace ecr {
+
+/// The picture of a bitmap file with any bytes inside, every dot of which has a colour; a null one where it is no
+/// bitmap.
+[[nodiscard]] QImage picture_of_bitmap(std::string_view bytes);
 
 class PaperPreview : public QLabel {
   Q_OBJECT

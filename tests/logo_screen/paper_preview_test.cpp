@@ -70,5 +70,35 @@ TEST_F(PaperPreviewTest, NoPictureLeavesThePlaceEmpty) {
   EXPECT_TRUE(preview.pixmap(Qt::ReturnByValue).isNull());
 }
 
+/// A bitmap of 8 x 4 dots that names two colours and uses others.
+std::string bitmap_with_too_few_colours(char bits) {
+  const auto number = [](std::size_t value, std::size_t bytes) {
+    std::string text;
+    for (std::size_t i = 0; i < bytes; ++i) text += static_cast<char>(value >> (8 * i) & 0xFF);
+    return text;
+  };
+  const std::string dots(32, '\xFF');
+  return "BM" + number(62 + dots.size(), 4) + number(0, 4) + number(62, 4) + number(40, 4) + number(8, 4) +
+         number(4, 4) + number(1, 2) + bits + '\0' + number(0, 4) + number(dots.size(), 4) + number(0, 8) +
+         number(2, 4) + number(2, 4) + std::string(8, '\0') + dots;
+}
+
+TEST_F(PaperPreviewTest, EveryDotOfABitmapHasAColourHoweverFewItNames) {
+  const QImage bytes_wide = picture_of_bitmap(bitmap_with_too_few_colours('\x08'));
+  ASSERT_FALSE(bytes_wide.isNull());
+  EXPECT_EQ(bytes_wide.colorCount(), 256);
+  for (int x = 0; x < bytes_wide.width(); ++x) EXPECT_LT(bytes_wide.pixelIndex(x, 0), bytes_wide.colorCount());
+  const QImage dots_wide = picture_of_bitmap(bitmap_with_too_few_colours('\x01'));
+  ASSERT_FALSE(dots_wide.isNull());
+  EXPECT_EQ(dots_wide.colorCount(), 2);
+  preview.show_picture(bytes_wide);
+  EXPECT_FALSE(seen().isNull());
+}
+
+TEST_F(PaperPreviewTest, WhatIsNoBitmapIsNoPicture) {
+  EXPECT_TRUE(picture_of_bitmap("BM and nothing else").isNull());
+  EXPECT_TRUE(picture_of_bitmap({}).isNull());
+}
+
 }  // namespace
 }  // namespace ecr::test
