@@ -44,7 +44,17 @@ Field::Field(const QString& name, QWidget* parent) : QLineEdit{parent} {
   });
 }
 
+void Field::limit_typing(int characters) {
+  if (limit_ == 0) {
+    connect(this, &QLineEdit::textEdited, this,
+            [this](const QString& edited) { setMaxLength(std::max(limit_, static_cast<int>(edited.size()))); });
+  }
+  limit_ = characters;
+  setMaxLength(std::max(limit_, static_cast<int>(text().size())));
+}
+
 void Field::show_text(const QString& text) {
+  if (limit_ > 0) setMaxLength(std::max(limit_, static_cast<int>(text.size())));
   setText(text);
 }
 

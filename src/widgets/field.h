@@ -25,6 +25,9 @@ class Field : public QLineEdit {
 
   /// Which typed characters are let in. Editing keys, selection and paste always work; `on_change` judges the result.
   void let_in(Keys keys) { keys_ = keys; }
+  /// How many characters can be typed or pasted. A longer text that the program shows stands whole, and can be made
+  /// shorter only.
+  void limit_typing(int characters);
   /// Enter gives the focus to this widget; without one it does nothing.
   void enter_goes_to(QWidget* widget) { enter_target_ = widget; }
 
@@ -55,6 +58,7 @@ class Field : public QLineEdit {
   void run(const std::function<void()>& handler);
 
   Keys keys_ = Keys::any;
+  int limit_ = 0;  ///< of typing; 0 for none
   QWidget* enter_target_ = nullptr;
   std::function<void()> entered_;
   std::function<void()> change_;

@@ -47,6 +47,25 @@ class FieldOn : public Base {
 using FieldTest = FieldOn<ScreenTest>;
 using FieldUnderRealShell = FieldOn<RealShellTest>;
 
+TEST_F(FieldTest, ALimitOfTypingLeavesWhatTheProgramShows) {
+  field.limit_typing(4);
+  EXPECT_EQ(field.maxLength(), 4);
+  field.show_text(QStringLiteral("1234567"));
+  EXPECT_EQ(field.text(), QStringLiteral("1234567"));
+  click(field);
+  press(Qt::Key_End);
+  type("8");
+  EXPECT_EQ(field.text(), QStringLiteral("1234567")) << "nothing is added to a text that is too long already";
+  press(Qt::Key_Backspace, Qt::NoModifier, 2);
+  type("9");
+  EXPECT_EQ(field.text(), QStringLiteral("12345"));
+  press(Qt::Key_Backspace, Qt::NoModifier, 2);
+  type("89");
+  EXPECT_EQ(field.text(), QStringLiteral("1238"));
+  field.show_text(QStringLiteral("1"));
+  EXPECT_EQ(field.maxLength(), 4);
+}
+
 TEST_F(FieldTest, AClickIntoItEntersItOnce) {
   click(field);
   EXPECT_EQ(entered, 1);

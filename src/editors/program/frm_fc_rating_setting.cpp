@@ -110,7 +110,7 @@ void FrmFCRatingSetting::load_currency(Currency& currency, ForeignCurrencyRecord
   currency.Cmb_DecimalPositionForRate->show_text(QString::number(record.DecimalPositionForRate));
   currency.Cmb_DecimalPositionForExchangedRate->fill(bare_numbers(0, 3));
   currency.Cmb_DecimalPositionForExchangedRate->show_text(QString::number(record.DecimalPositionForExchangedRate));
-  currency.E_ExchangeRate->setMaxLength(rate_digits + (record.DecimalPositionForExchangedRate != 0 ? 1 : 0));
+  currency.E_ExchangeRate->limit_typing(rate_digits + (record.DecimalPositionForExchangedRate != 0 ? 1 : 0));
   currency.Rate = static_cast<std::int32_t>(leading_number(bcds_to_number(record.Rate)));
   currency.E_ExchangeRate->show_text(QString::number(currency.Rate));
   rate_left(currency);

@@ -108,36 +108,29 @@ QString stored_counter(const CounterRow& row) {
   return with_zeros(screen_text(is_grand_total ? bcds_to_number_str(bytes) : bcds_to_number(bytes)), row.digits);
 }
 
-/// What a text says as a counter; a fault for one that is no number, is below 0 or has more digits than there is room
-/// for.
-Decimal counter_of(const QString& text, int digits) {
+/// What a text says as a counter; a fault for one that is no number, is below 0 or has more digits than its bytes have
+/// room for: one more than can be typed, in some.
+Decimal counter_of(const QString& text, const CounterRow& row) {
   const Decimal value = Decimal::from_text(page_bytes(text));
-  if (value.is_negative() || value.text(0).size() > static_cast<std::size_t>(digits)) {
+  if (value.is_negative() || value.text(0).size() > 2 * row.bytes) {
     throw FaultError{FaultCode::overflow};
   }
   return value;
 }
 
-void counter_entered(Field& field, int digits) {
-  const QString plain = through_double(field.text());
-  // The form with an exponent, which a grand total of 16 digits gets, is longer than what may be typed.
-  field.setMaxLength(std::max(digits, static_cast<int>(plain.size())));
-  field.show_text(plain);
+void counter_entered(Field& field) {
+  field.show_text(through_double(field.text()));
 }
 
 void counter_left(Field& field, const CounterRow& row) {
-  const auto show = [&](const QString& text) {
-    field.show_text(text);
-    field.setMaxLength(row.digits);
-  };
   if (row.leaving == Leaving::as_far_as_it_is_a_number) {
-    show(screen_text(numeric_value(field.text()).text(0, row.digits)));
+    field.show_text(screen_text(numeric_value(field.text()).text(0, row.digits)));
     return;
   }
   try {
-    show(screen_text(counter_of(field.text(), row.digits).text(0, row.digits)));
+    field.show_text(screen_text(counter_of(field.text(), row).text(0, row.digits)));
   } catch (const FaultError&) {
-    show(stored_counter(row));
+    field.show_text(stored_counter(row));
     throw;
   }
 }
@@ -198,12 +191,9 @@ QWidget* FrmSystemOption::make_counters() {
     form.note(line, 0, member_name("L_Max", row.note), row.note_key, row.note_built_in);
     field->setAlignment(Qt::AlignRight);
     field->setFixedWidth(220);
-    field->setMaxLength(row.digits);
+    field->limit_typing(row.digits);
     field->let_in(Field::Keys::digits);
-    field->on_entered([field, &row] { counter_entered(*field, row.digits); });
-    field->on_change([field, &row] {
-      if (field->text().size() <= row.digits && field->maxLength() > row.digits) field->setMaxLength(row.digits);
-    });
+    field->on_entered([field] { counter_entered(*field); });
     field->on_left([field, &row] { counter_left(*field, row); });
     counters_[i] = field;
   }
@@ -222,7 +212,7 @@ void FrmSystemOption::load() {
 void FrmSystemOption::save() {
   for (std::size_t i = 0; i < counters_.size(); ++i) {
     const CounterRow& row = counter_rows[i];
-    number_to_bcds(bytes_of_counter(row), counter_of(counters_[i]->text(), row.digits));
+    number_to_bcds(bytes_of_counter(row), counter_of(counters_[i]->text(), row));
   }
   lists_.save();
   Global::DecimalPoint = PrgMode.SysOpt0;

@@ -167,11 +167,20 @@ TEST_F(FrmFCRatingSettingTest, TheLengthLimitIsThatOfTheLoad) {
   EXPECT_EQ(field("E_ExchangeRate(1)").maxLength(), 7);
 }
 
-TEST_F(FrmFCRatingSettingTest, ARateWithoutRoomForItsNewPointLosesItsLastDigit) {
-  set(0, "123456", 0);
+TEST_F(FrmFCRatingSettingTest, ARateOfSixDigitsKeepsThemAllWhenItsPointMoves) {
+  set(0, "999999", 0);
   open_editor();
   pick(decimals(0), 2);
-  EXPECT_EQ(rate(0), QStringLiteral("1234.5"));
+  EXPECT_EQ(rate(0), QStringLiteral("9999.99"));
+  click("C_Salva");
+  EXPECT_EQ(bcds_to_number(PrgMode.ForeignCurrency[0].Rate), "999999");
+}
+
+TEST_F(FrmFCRatingSettingTest, ARateThatIsLongerThanCanBeTypedSurvivesOpeningAndSaving) {
+  set(0, "12345678", 2);
+  open_editor();
+  click("C_Salva");
+  EXPECT_EQ(bcds_to_number(PrgMode.ForeignCurrency[0].Rate), "12345678");
 }
 
 TEST_F(FrmFCRatingSettingTest, EnterGoesToSaveAndLettersAreDropped) {
