@@ -43,8 +43,10 @@ ShortCaptionPage::ShortCaptionPage(Captions& captions, std::function<void()> cha
   lay_out();
 
   FG_Caption->on_select([this](int row) { edit(row); });
-  connect(FG_Caption, &QTableView::activated, this, [this] {
-    if (E_Valore->isEnabled()) E_Valore->setFocus(Qt::OtherFocusReason);
+  connect(FG_Caption, &QTableView::activated, this, [this](const QModelIndex& index) {
+    // Behind Apply and Cancel the row is still the current one, and nothing has selected it anew.
+    if (!E_Valore->isEnabled()) edit(index.row() + 1);
+    E_Valore->setFocus(Qt::OtherFocusReason);
   });
   E_Valore->print_double_while([this] { return ChK_Double2->isChecked(); }, "E_Valore_KeyPress ");
   E_Valore->on_change([this] { changed_(); });

@@ -9,7 +9,8 @@ namespace ecr {
 OptionScreen::OptionScreen(const OptionScreenTable& table)
     : Screen{QString::fromLatin1(table.name.data(), static_cast<qsizetype>(table.name.size()))},
       frame_{*this, ScreenFrame::Corner::picture},
-      lists_{*this, frame_.captions, table.rows} {
+      lists_{*this, frame_.captions, table.rows},
+      writes_{table.writes} {
   frame_.captions.add(*this, table.title, table.title_caption);
   frame_.captions.add(*frame_.top.L_Titolo, table.heading, table.heading_caption);
   frame_.body->addLayout(lists_.block());
@@ -25,14 +26,16 @@ OptionScreen::OptionScreen(const OptionScreenTable& table)
     before = next;
   }
   frame_.log_prefixes(std::string{table.load_prefix}, std::string{table.save_prefix});
-  frame_.on_save([this, writes = table.writes] {
+  frame_.on_save([this] {
     lists_.save();
-    if (writes == SaveWrites::the_image_file) Write_PrgMode();
+    if (writes_ == SaveWrites::the_image_file) Write_PrgMode();
   });
 }
 
 void OptionScreen::load() {
   frame_.load([this] { lists_.load(); });
+  // It would name a file that this Save leaves alone.
+  if (writes_ == SaveWrites::nothing) frame_.C_Salva->setToolTip({});
 }
 
 }  // namespace ecr

@@ -42,6 +42,7 @@ class OptionScreen : public Screen {
  private:
   EditorFrame frame_;
   OptionLists lists_;
+  SaveWrites writes_;
 };
 
 }  // namespace ecr

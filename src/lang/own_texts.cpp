@@ -177,6 +177,8 @@ constexpr std::array<Row, own_text_count> rows = {{
     {OwnText::department_number,
      {"Department %1", "Departamento %1", "Rayon %1", "Warengruppe %1", "Afdeling %1", "Secção %1", "Varegruppe %1",
       "Varegruppe %1"}},
+    {OwnText::list_number,
+     {"List %1", "Lista %1", "Liste %1", "Liste %1", "Lijst %1", "Lista %1", "Liste %1", "Liste %1"}},
     {OwnText::net_sales_by_clerk,
      {"Net sales by clerk", "Ventas netas por vendedor", "Ventes nettes par vendeur", "Nettoumsatz nach Bediener",
       "Netto-omzet per bediener", "Vendas líquidas por operador", "Nettosalg pr. ekspedient",

@@ -67,6 +67,7 @@ enum class OwnText : std::uint8_t {
   vat_by_rate,
   sales_by_department,
   department_number,
+  list_number,  ///< %1: 1 to 5
   net_sales_by_clerk,
   best_sellers,
   worst_sellers,

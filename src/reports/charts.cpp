@@ -151,7 +151,6 @@ std::vector<Chart> report_charts(std::uint8_t number, const CsvExport& exported)
       charts = {totals(OwnText::sales_by_medium, media, exported), totals(OwnText::vat_by_rate, rates, exported)};
       break;
     case 5:
-    case 6:
       charts = {departments(exported)};
       break;
     case 7:

@@ -23,6 +23,12 @@ expect-focus C_Apply
 key Enter
 expect-cell FG_Caption 3 1 "CASH IN   "
 expect-focus FG_Caption
+key Enter
+expect-focus E_Valore
+expect-enabled C_Cancel yes
+key Enter
+key Enter
+expect-focus FG_Caption
 key Down
 expect E_Valore "CHEQUE    "
 key Tab

@@ -7,7 +7,7 @@ box plain * Yes
 click C_ProgramMode
 click C_PluProgram
 click C_Import
-file cancel
+file nothere.csv
 screen FrmPrgPlu
 nobox
 expect-same Dati/PRG_PLU.BIN register/PRG_PLU.BIN

@@ -19,8 +19,8 @@ expect Cmb_PluNumber 1
 expect-cell Fg_Plu 16 7 "13.50"
 row Fg_Plu 11
 click C_Salva
-copy Dati/PRG_PLU.BIN saved.bin
 click C_Export
 file again.csv
 screen FrmPrgPlu
+expect-line again.csv 2 "1;Espresso        ;1;1;160;130;2;2;2;0;"
 expect-bytes Dati/PRG_PLU.BIN 1242 110000000000000050616E696E6F20636170726573652020E206020320060000400500000001000012000000

@@ -1,5 +1,5 @@
-# The items are sent alone. Behind the send the program waits 1.4 seconds for each changed item, with a bar and the time
-# left, and then the flags are gone.
+# The items are sent alone. Behind the send the program waits for the register to take the changed items, and then the
+# flags are gone.
 start
 expect E_ComPort 4
 click C_Z320

@@ -22,7 +22,6 @@ expect-bytes Logo/GRAPHIC.BIN 0 8001A200
 expect-same Logo/GRAPHIC.BIN Dati/GRAPHIC.BIN
 expect-same Logo/GRAPHIC.BIN register/GRAPHIC.BIN
 expect-file register/receipt.bmp exists
-expect-no-log "FrmSetLogo Invia Ecr: *"
 expect-enabled C_Invia_Ecr yes
 click C_Annulla
 screen FrmPrincipale

@@ -1,4 +1,4 @@
-# An emptied field becomes 0 when it is left, and a save by the letter mark or the button stores 0.
+# An emptied field becomes 0 when it is left, and a save by the button stores 0.
 start
 expect E_ComPort 4
 click C_Z320

@@ -7,13 +7,13 @@ box plain * Yes
 click C_Report
 screen FrmReportExport
 expect-file Report/RELEASE.csv missing
-mark-log
+delete Log/memo_log.txt
 forget-calls
 click C_Export
 expect-file Report/RELEASE.csv size 0
 expect-calls 1
 expect-call 1 "send_cmd folder=. direction=0 file=22 timeout=60 port=4"
 expect-log-like "Time for download report 22 is:*"
-expect-no-log "C_Export_click err: *"
+expect-lines Log/memo_log.txt 1
 screen FrmReportExport
 nobox

@@ -5,6 +5,7 @@
 #include "core/codecs.h"
 #include "editors/program/code_field.h"
 #include "image/prg_plu.h"
+#include "lang/own_texts.h"
 #include "link/transfer.h"
 #include "widgets/screen_text.h"
 
@@ -30,7 +31,7 @@ FrmPopUpPluList::FrmPopUpPluList()
   frame_.captions.add(*frame_.top.L_Titolo, Key::FRM_POP_UP_PLU_LIST_TITLE_MSG, "POP UP PLU LIST");
   Tab_PopUpPluList->setObjectName(QStringLiteral("Tab_PopUpPluList"));
   for (std::size_t list = 0; list < lists; ++list) {
-    Tab_PopUpPluList->addTab(make_list(list), QStringLiteral("List %1").arg(list + 1));
+    Tab_PopUpPluList->addTab(make_list(list), own_words(OwnText::list_number).arg(list + 1));
   }
   frame_.body->addWidget(Tab_PopUpPluList, 1);
   frame_.changes_file(QStringLiteral("PRG_PLU.BIN"));

@@ -68,6 +68,14 @@ TEST_F(FrmHospitalitySetupTest, BitsOfOthersSurvive) {
   EXPECT_EQ(PrgMode.Set12_Hospitality, 0xE0);
 }
 
+TEST_F(FrmHospitalitySetupTest, SaveNamesNoFileSinceItWritesNone) {
+  start_session(Global::model_z320);
+  open(screen);
+  EXPECT_EQ(button("C_Salva").toolTip(), QString{});
+  open("FrmClerkMenuSetup");
+  EXPECT_TRUE(button("C_Salva").toolTip().endsWith(QStringLiteral("PRG_MODE.BIN")));
+}
+
 TEST_F(FrmHospitalitySetupTest, TheFileFollowsWhenAnotherEditorSaves) {
   start_session(Global::model_z320);
   PrgModeImage image = good_image(Global::model_z320);
