@@ -43,12 +43,4 @@ QLabel* FormGrid::quiet_label(int row, int side, const QString& name) {
   return label;
 }
 
-void set_tab_chain(std::initializer_list<QWidget*> chain) {
-  QWidget* before = nullptr;
-  for (QWidget* widget : chain) {
-    if (before != nullptr) QWidget::setTabOrder(before, widget);
-    before = widget;
-  }
-}
-
 }  // namespace ecr

@@ -33,7 +33,4 @@ class FormGrid {
   QGridLayout* layout_;
 };
 
-/// Tab goes from one of these to the next.
-void set_tab_chain(std::initializer_list<QWidget*> chain);
-
 }  // namespace ecr

@@ -42,7 +42,6 @@ class OptionScreen : public Screen {
  private:
   EditorFrame frame_;
   OptionLists lists_;
-  SaveWrites writes_;
 };
 
 }  // namespace ecr

@@ -69,12 +69,7 @@ FrmAdvancedSetting::FrmAdvancedSetting()
   frame_.body->addWidget(Tab_AdvancedOption, 1);
 
   // Behind the tabs, where the eye goes on.
-  QWidget* last = C_RestoreDefaultPop.back();
-  for (QWidget* next :
-       std::initializer_list<QWidget*>{frame_.C_Salva, frame_.C_Invia_Ecr, frame_.C_Annulla, frame_.top.I_Help}) {
-    setTabOrder(last, next);
-    last = next;
-  }
+  frame_.tab_through({C_RestoreDefaultPop.back()});
   wire();
 }
 

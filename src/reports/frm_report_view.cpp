@@ -200,14 +200,8 @@ void FrmReportView::lay_out() {
   bar->addWidget(C_Pdf);
   bar->addWidget(C_Print);
   frame_.body->addLayout(bar);
-  const std::initializer_list<QWidget*> order = {Cmb_File,  Cmb_Export, E_Filter,   Chk_Figures, Tabs,
-                                                 Fg_Report, pictures,   C_Previous, C_Next,      T_Receipt,
-                                                 C_Annulla, C_Pdf,      C_Print};
-  QWidget* before = nullptr;
-  for (QWidget* control : order) {
-    if (before != nullptr) setTabOrder(before, control);
-    before = control;
-  }
+  set_tab_chain({Cmb_File, Cmb_Export, E_Filter, Chk_Figures, Tabs, Fg_Report, pictures, C_Previous, C_Next, T_Receipt,
+                 C_Annulla, C_Pdf, C_Print});
 }
 
 void FrmReportView::load() {

@@ -103,6 +103,14 @@ void Picture::keyPressEvent(QKeyEvent* event) {
   }
 }
 
+void set_tab_chain(std::initializer_list<QWidget*> chain) {
+  set_tab_chain(std::vector<QWidget*>{chain});
+}
+
+void set_tab_chain(const std::vector<QWidget*>& chain) {
+  for (std::size_t i = 1; i < chain.size(); ++i) QWidget::setTabOrder(chain[i - 1], chain[i]);
+}
+
 QLabel* make_label(const QString& name, QWidget* parent, QWidget* field) {
   auto* label = new QLabel{parent};
   label->setObjectName(name);

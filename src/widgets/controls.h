@@ -2,6 +2,8 @@
 // Buttons, labels and pictures as the screens use them.
 
 #include <functional>
+#include <initializer_list>
+#include <vector>
 
 #include <QLabel>
 #include <QPixmap>
@@ -63,6 +65,10 @@ class Picture : public QLabel {
  private:
   std::function<void()> click_;
 };
+
+/// Tab leads from each control to the next one of the chain.
+void set_tab_chain(std::initializer_list<QWidget*> chain);
+void set_tab_chain(const std::vector<QWidget*>& chain);
 
 /// A label with its control's name. With a `field` it names that field: for the letter marks and for who listens.
 [[nodiscard]] QLabel* make_label(const QString& name, QWidget* parent, QWidget* field = nullptr);

@@ -57,11 +57,16 @@ void EditorFrame::log_prefixes(std::string load, std::string save) {
   save_prefix_ = std::move(save);
 }
 
+void EditorFrame::tab_through(std::vector<QWidget*> controls) const {
+  controls.insert(controls.end(), {C_Salva, C_Invia_Ecr, C_Annulla, top.I_Help});
+  set_tab_chain(controls);
+}
+
 void EditorFrame::load(const std::function<void()>& routine) {
   top.load_band(file_);
   C_Salva->setIcon(glyph(Glyph::to_file, C_Salva->palette().color(QPalette::HighlightedText)));
   C_Invia_Ecr->setIcon(glyph(Glyph::to_register, text_plain()));
-  C_Salva->setToolTip(QStringLiteral("→ ") + screen_text(Global::PathDati) + file_);
+  if (saves_to_file_) C_Salva->setToolTip(QStringLiteral("→ ") + screen_text(Global::PathDati) + file_);
   C_Invia_Ecr->setToolTip(file_ + QStringLiteral(" → ") + top.L_Session->text().section(QStringLiteral("   "), 0, 1));
   captions.lay();
   guarded(load_prefix_, routine);

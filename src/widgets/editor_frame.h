@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "widgets/captions.h"
 #include "widgets/controls.h"
@@ -28,6 +29,10 @@ class EditorFrame {
   void after_send(std::function<void()> after) { after_send_ = std::move(after); }
   /// The file that C_Salva writes, where it is not the image's; its name without the folder.
   void changes_file(const QString& file) { file_ = file; }
+  /// C_Salva writes no file: the working image alone changes. Send still sends the file.
+  void saves_to_no_file() { saves_to_file_ = false; }
+  /// Tab leads through these controls, then over Save, Send and Back to the manual.
+  void tab_through(std::vector<QWidget*> controls) const;
   /// Other words in front of a fault in loading or saving, where a screen's own are not "<Screen> Form_load: " and
   /// "<Screen> Salva: ".
   void log_prefixes(std::string load, std::string save);
@@ -53,6 +58,7 @@ class EditorFrame {
   std::function<bool()> send_;
   std::function<void()> after_send_;
   WhileSending while_sending_ = WhileSending::buttons_disabled;
+  bool saves_to_file_ = true;
   QString file_ = QStringLiteral("PRG_MODE.BIN");
   std::string load_prefix_;
   std::string save_prefix_;

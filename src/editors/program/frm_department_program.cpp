@@ -109,11 +109,9 @@ void FrmDepartmentProgram::lay_out() {
   E_DeptGroupNumber->setAlignment(Qt::AlignRight);
 
   // Down the left side, then down the right one.
-  QWidget* const order[] = {Cmb_DepartmentNumber, E_DeptName,    E_Price,          Cmb_PriceType,
-                            E_DeptGroupNumber,    Cmb_Tax,       Cmb_TakeOutTax,   Cmb_Status1,
-                            Cmb_Status2,          Cmb_Halo,      frame_.C_Salva,   frame_.C_Invia_Ecr,
-                            frame_.C_Annulla,     Fg_Department, frame_.top.I_Help};
-  for (std::size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
+  set_tab_chain({Cmb_DepartmentNumber, E_DeptName, E_Price, Cmb_PriceType, E_DeptGroupNumber, Cmb_Tax, Cmb_TakeOutTax,
+                 Cmb_Status1, Cmb_Status2, Cmb_Halo, frame_.C_Salva, frame_.C_Invia_Ecr, frame_.C_Annulla,
+                 Fg_Department, frame_.top.I_Help});
 }
 
 void FrmDepartmentProgram::wire() {

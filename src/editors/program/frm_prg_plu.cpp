@@ -76,11 +76,10 @@ void FrmPrgPlu::lay_out() {
   frame_.body->addWidget(Fg_Plu, 1);
 
   // Down the left side, then down the right one.
-  QWidget* const order[] = {Cmb_PluNumber,   E_FreeCode,         E_Name,           E_Price1, E_Price2,
-                            E_StockCount,    Cmb_Status,         Cmb_LinkDept,     Cmb_Tax,  Cmb_TakeOutTax,
-                            Cmb_PluListLink, Cmb_StockUsed,      frame_.C_Salva,   C_Erase,  C_Import,
-                            C_Export,        frame_.C_Invia_Ecr, frame_.C_Annulla, Fg_Plu,   frame_.top.I_Help};
-  for (std::size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
+  set_tab_chain({Cmb_PluNumber,   E_FreeCode,         E_Name,           E_Price1, E_Price2,
+                 E_StockCount,    Cmb_Status,         Cmb_LinkDept,     Cmb_Tax,  Cmb_TakeOutTax,
+                 Cmb_PluListLink, Cmb_StockUsed,      frame_.C_Salva,   C_Erase,  C_Import,
+                 C_Export,        frame_.C_Invia_Ecr, frame_.C_Annulla, Fg_Plu,   frame_.top.I_Help});
 }
 
 void FrmPrgPlu::lay_out_fields(QGridLayout& grid) {

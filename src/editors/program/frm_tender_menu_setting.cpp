@@ -103,21 +103,14 @@ FrmTenderMenuSetting::FrmTenderMenuSetting()
   frame_.on_save([this] { save(); });
 
   // Down the frames, over the tabs into the one in front.
-  QWidget* before = frame_.top.I_Help;
+  std::vector<QWidget*> order;
   for (int i = 0; i < media; ++i) {
     const Medium& medium = media_[static_cast<std::size_t>(i)];
-    if (i == media_in_frames) {
-      setTabOrder(before, Tab_Credit);
-      before = Tab_Credit;
-    }
-    setTabOrder(before, medium.E_Name);
-    before = medium.E_Name;
-    for (ChoiceList* list : medium.lists.lists()) {
-      setTabOrder(before, list);
-      before = list;
-    }
+    if (i == media_in_frames) order.push_back(Tab_Credit);
+    order.push_back(medium.E_Name);
+    order.insert(order.end(), medium.lists.lists().begin(), medium.lists.lists().end());
   }
-  set_tab_chain({before, frame_.C_Salva, frame_.C_Invia_Ecr, frame_.C_Annulla});
+  frame_.tab_through(std::move(order));
 }
 
 void FrmTenderMenuSetting::make_medium(int index) {

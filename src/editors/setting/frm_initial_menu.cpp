@@ -42,17 +42,9 @@ FrmInitialMenu::FrmInitialMenu()
   E_BusinessID->hide();
   C_SettaLingua->hide();
 
-  QWidget* before = nullptr;
-  const auto follows = [&before](QWidget* next) {
-    if (before != nullptr) setTabOrder(before, next);
-    before = next;
-  };
-  for (ChoiceList* list : lists_.lists()) follows(list);
-  follows(C_SettaLingua);
-  follows(frame_.C_Salva);
-  follows(frame_.C_Invia_Ecr);
-  follows(frame_.C_Annulla);
-  follows(frame_.top.I_Help);
+  std::vector<QWidget*> order{lists_.lists().begin(), lists_.lists().end()};
+  order.push_back(C_SettaLingua);
+  frame_.tab_through(std::move(order));
   frame_.log_prefixes("FrmInitialMenu form_load: ", "FrmInitialMenu Salva: ");
   frame_.on_save([this] { save(); });
 }

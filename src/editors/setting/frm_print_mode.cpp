@@ -154,19 +154,11 @@ void FrmPrintMode::add_pages() {
 }
 
 void FrmPrintMode::order_tabs() {
-  QWidget* before = Tab_Print;
-  const auto follows = [&before](QWidget* next) {
-    setTabOrder(before, next);
-    before = next;
-  };
-  follows(Tab_PrintReceipt);
+  std::vector<QWidget*> order = {Tab_Print, Tab_PrintReceipt};
   for (std::size_t i = 0; i < pages_.size(); ++i) {
-    for (ChoiceList* list : lists_in_order(*pages_.at(i), i)) follows(list);
+    for (ChoiceList* list : lists_in_order(*pages_.at(i), i)) order.push_back(list);
   }
-  follows(frame_.C_Salva);
-  follows(frame_.C_Invia_Ecr);
-  follows(frame_.C_Annulla);
-  follows(frame_.top.I_Help);
+  frame_.tab_through(std::move(order));
 }
 
 void FrmPrintMode::load() {
