@@ -11,7 +11,7 @@
 #include "core/files.h"
 #include "core/global.h"
 #include "installation.h"
-#include "link/error_tables.h"
+#include "link/report_rows.h"
 #include "platform/platform.h"
 #include "reports/export_report.h"
 
@@ -84,7 +84,7 @@ std::string report_file(std::uint8_t number) {
 }
 
 std::string name_of(std::uint8_t number) {
-  return std::string{ReportName[number]};
+  return std::string{report_name(number)};
 }
 
 void put_report(std::uint8_t number) {
@@ -153,25 +153,23 @@ void floor_of_one(benchmark::State& state) {
 }
 
 void export_all(benchmark::State& state) {
-  for (std::uint8_t number = first_report; number <= last_report; ++number) put_report(number);
+  for (const Report& report : exported_reports) put_report(report.number);
   for (auto _ : state) {
     state.PauseTiming();
-    for (std::uint8_t number = first_report; number <= last_report; ++number) remove_csv(number);
+    for (const Report& report : exported_reports) remove_csv(report.number);
     state.ResumeTiming();
-    for (std::uint8_t number = first_report; number <= last_report; ++number) export_ReportEcr(number);
+    for (const Report& report : exported_reports) export_ReportEcr(report.number);
   }
 }
 
 void floor_of_all(benchmark::State& state) {
   std::vector<std::string> outputs;
-  for (std::uint8_t number = first_report; number <= last_report; ++number) outputs.push_back(output_of(number));
+  for (const Report& report : exported_reports) outputs.push_back(output_of(report.number));
   for (auto _ : state) {
     state.PauseTiming();
-    for (std::uint8_t number = first_report; number <= last_report; ++number) remove_copy(number);
+    for (const Report& report : exported_reports) remove_copy(report.number);
     state.ResumeTiming();
-    for (std::uint8_t number = first_report; number <= last_report; ++number) {
-      write_floor_of(number, outputs[static_cast<std::size_t>(number - first_report)]);
-    }
+    for (std::size_t i = 0; i < outputs.size(); ++i) write_floor_of(exported_reports[i].number, outputs[i]);
   }
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "link/report_rows.h"
 #include "reports/charts.h"
 #include "reports/csv_file.h"
 #include "reports/receipts.h"

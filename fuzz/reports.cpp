@@ -7,7 +7,7 @@
 #include "core/amount_text.h"
 #include "core/files.h"
 #include "core/global.h"
-#include "link/error_tables.h"
+#include "link/report_rows.h"
 #include "reports/export_report.h"
 #include "support/installation.h"
 
@@ -41,14 +41,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::uint8_t number = static_cast<std::uint8_t>(data[0] % 26);
   Global::DecimalPoint = data[1];
   const std::string file = file_of(data + 2, size - 2);
-  const std::string name = number < ReportName.size() && !ReportName[number].empty() ? std::string{ReportName[number]}
-                                                                                     : std::string{"OTHER"};
+  const Report* report = report_numbered(number);
+  const std::string name{report != nullptr ? report->name : std::string_view{"OTHER"}};
   installation.write("Dati/" + name + ".bin", file);
   export_ReportEcr(number);
   const std::string csv_name = "Report/" + name + ".csv";
   const ReportLayout* layout = report_layout(number);
-  require(installation.exists(csv_name) == (number < ReportName.size()), "a file that matched leaves one");
-  if (number < ReportName.size()) {
+  require(installation.exists(csv_name) == (report != nullptr), "a file that matched leaves one");
+  if (report != nullptr) {
     const std::string csv = installation.bytes(csv_name);
     if (layout == nullptr || layout->columns.empty()) {
       require(csv.empty(), "a report without a layout leaves an empty file");

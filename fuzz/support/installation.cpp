@@ -18,7 +18,6 @@
 #include "lang/language.h"
 #include "link/firmware.h"
 #include "link/ports.h"
-#include "link/report_fetch.h"
 #include "platform/platform.h"
 
 namespace ecr::fuzz {
@@ -131,7 +130,6 @@ void Installation::reset() {
   reset_language();
   reset_firmware();
   reset_ports();
-  Txt_MPS_Min.clear();
   install_link_library(nullptr);
   shell.boxes = 0;
   system.captions.reset();

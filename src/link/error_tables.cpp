@@ -13,32 +13,6 @@ std::string_view text_of(const std::array<CodeText32, N>& rows, std::int32_t cod
 
 }  // namespace
 
-constexpr std::array<std::string_view, 25> ReportName = {"",
-                                                         "",
-                                                         "",
-                                                         "C-I-D",
-                                                         "FINANCIAL",
-                                                         "RANGE DEPT",
-                                                         "DEPT GROUP",
-                                                         "ALL PLU",
-                                                         "RANGE PLU",
-                                                         "ALL CLERK",
-                                                         "ALL T-CLERK",
-                                                         "NT-CLERK",
-                                                         "TIME",
-                                                         "TRAINING",
-                                                         "FINANCIAL2",
-                                                         "OPEN TBL",
-                                                         "FULL EJ",
-                                                         "OLD EJ",
-                                                         "LATE EJ",
-                                                         "DAILY EJ",
-                                                         "ASK",
-                                                         "MSK",
-                                                         "RELEASE",
-                                                         "",
-                                                         ""};
-
 constexpr std::array<CodeText32, 19> RegWireError = {{
     {0, ""},
     {1, "It was discontinued while processing it."},

@@ -1,5 +1,5 @@
 #pragma once
-// File numbers, report names and result codes of the link library, with the texts that the library's makers give them.
+// File numbers and result codes of the link library, with the texts that the library's makers give them.
 
 #include <array>
 #include <cstdint>
@@ -11,9 +11,7 @@ namespace FileNumber {
 inline constexpr std::uint8_t image = 0;
 inline constexpr std::uint8_t plu = 1;
 inline constexpr std::uint8_t logo = 2;
-inline constexpr std::uint8_t range_dept = 5;
 inline constexpr std::uint8_t time = 12;  ///< the cheapest report, which also serves as the link test
-inline constexpr std::uint8_t msk = 21;
 inline constexpr std::uint8_t release = 22;
 }  // namespace FileNumber
 
@@ -24,9 +22,6 @@ inline constexpr std::int32_t busy = 4097;
 inline constexpr std::int32_t refused = 4098;
 inline constexpr std::int32_t timeout = 9999;  ///< the exchange tool is left running
 }  // namespace ResultCode
-
-/// Report names by file number; empty outside 3 to 22.
-extern const std::array<std::string_view, 25> ReportName;
 
 struct CodeText32 {
   std::int32_t code;

@@ -12,6 +12,7 @@
 #include "core/run_log.h"
 #include "core/system.h"
 #include "link/error_tables.h"
+#include "link/report_rows.h"
 #include "link/tilbridge2.h"
 
 namespace ecr {
@@ -144,8 +145,7 @@ std::string what_moves(std::uint8_t direction, std::uint8_t fileNumber) {
     case FileNumber::release:
       return "Asking the register for its release";
     default:
-      return "Reading the report " +
-             std::string{fileNumber < ReportName.size() ? ReportName[fileNumber] : std::string_view{}};
+      return "Reading the report " + std::string{report_name(fileNumber)};
   }
 }
 

@@ -2,15 +2,13 @@
 // Fetching one report file from the register into PathDati.
 
 #include <cstdint>
-#include <string>
 
 namespace ecr {
 
-/// The lower limit of report 21, as the report screen's field has it; digits, empty counts as 0.
-extern std::string Txt_MPS_Min;
-
-/// Fetches report `number`, 3 to 22; its file is named by ReportName. A report of that name that lies in PathDati goes
-/// to PathReportDati first, over the one there. Answers whether the register delivered; a failure reaches the log only.
-bool Receive_ReportEcr(std::uint8_t number);
+/// Fetches the report of a row of link/report_rows.h. A report of that name that lies in PathDati goes to
+/// PathReportDati first, over the one there. `first_record` is where the range of a report begins whose first record is
+/// typed. Returns whether the register delivered; a failure reaches the log only. Does nothing for a number that is no
+/// report's.
+bool Receive_ReportEcr(std::uint8_t number, std::int32_t first_record = 0);
 
 }  // namespace ecr

@@ -7,6 +7,7 @@
 #include "core/decimal.h"
 #include "core/fault.h"
 #include "lang/own_texts.h"
+#include "link/report_rows.h"
 #include "reports/report_names.h"
 #include "reports/report_table.h"
 
@@ -141,27 +142,23 @@ std::vector<Chart> sellers(const CsvExport& exported) {
 std::vector<Chart> report_charts(std::uint8_t number, const CsvExport& exported) {
   if (exported.rows.empty() || exported.heading.empty()) return {};
   std::vector<Chart> charts;
-  switch (number) {
-    case 3:
+  switch (report_kind(number)) {
+    case ReportKind::drawer:
       charts = {totals(OwnText::in_the_drawer, drawer, exported)};
       break;
-    case 4:
-    case 13:
-    case 14:
+    case ReportKind::financial:
       charts = {totals(OwnText::sales_by_medium, media, exported), totals(OwnText::vat_by_rate, rates, exported)};
       break;
-    case 5:
+    case ReportKind::departments:
       charts = {departments(exported)};
       break;
-    case 7:
+    case ReportKind::items:
       charts = sellers(exported);
       break;
-    case 9:
-    case 10:
-    case 11:
+    case ReportKind::clerks:
       charts = {clerks(exported)};
       break;
-    case 12:
+    case ReportKind::hours:
       charts = {hours(OwnText::sales_by_hour, Chart::Kind::columns, exported, "SalesTotal"),
                 hours(OwnText::receipts_by_hour, Chart::Kind::line, exported, "SalesCount")};
       break;

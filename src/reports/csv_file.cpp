@@ -1,8 +1,7 @@
 #include "reports/csv_file.h"
 
 #include "core/text.h"
-#include "link/error_tables.h"
-#include "reports/layout.h"
+#include "link/report_rows.h"
 
 namespace ecr {
 namespace {
@@ -44,12 +43,12 @@ std::vector<CsvExport> read_csv(std::string_view bytes, bool whole_lines) {
 
 std::uint8_t report_of_file(std::string_view file_name) {
   const std::string name = lower_ascii(file_name);
-  std::uint8_t found = 0;
-  for (std::uint8_t number = first_report; number <= last_report; ++number) {
-    if (!name.starts_with(lower_ascii(ReportName[number]))) continue;
-    if (found == 0 || ReportName[number].size() > ReportName[found].size()) found = number;
+  const Report* found = nullptr;
+  for (const Report& report : exported_reports) {
+    if (!name.starts_with(lower_ascii(report.name))) continue;
+    if (found == nullptr || report.name.size() > found->name.size()) found = &report;
   }
-  return found;
+  return found == nullptr ? std::uint8_t{0} : found->number;
 }
 
 }  // namespace ecr

@@ -18,11 +18,7 @@ struct CsvExport {
 /// between separators, nothing is quoted. `whole_lines` keeps each line as one cell, for texts with separators inside.
 [[nodiscard]] std::vector<CsvExport> read_csv(std::string_view bytes, bool whole_lines);
 
-/// The report that a file of PathReport holds, by its name: the one with the longest ReportName in front; 0 for none.
+/// The report that a file of PathReport holds, by its name: the one with the longest report name in front; 0 for none.
 [[nodiscard]] std::uint8_t report_of_file(std::string_view file_name);
-
-[[nodiscard]] constexpr bool is_journal(std::uint8_t number) {
-  return number >= 16 && number <= 19;
-}
 
 }  // namespace ecr

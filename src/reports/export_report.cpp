@@ -12,7 +12,7 @@
 #include "core/global.h"
 #include "core/register_text.h"
 #include "core/run_log.h"
-#include "link/error_tables.h"
+#include "link/report_rows.h"
 
 namespace ecr {
 namespace {
@@ -146,8 +146,9 @@ void write_lines(const ReportLayout& layout, FileReader& file, Output& out) {
 
 /// The name of the report's file in PathDati, empty if there is none.
 std::string report_file(std::uint8_t number) {
-  if (number >= ReportName.size()) return {};
-  const std::vector<std::string> names = files_matching(Global::PathDati, std::string{ReportName[number]} + "*.bin");
+  const Report* report = report_numbered(number);
+  if (report == nullptr) return {};
+  const std::vector<std::string> names = files_matching(Global::PathDati, std::string{report->name} + "*.bin");
   return names.empty() ? std::string{} : names.front();
 }
 

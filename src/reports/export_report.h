@@ -9,12 +9,12 @@
 
 namespace ecr {
 
-/// Reads the first file in PathDati whose name begins with ReportName[number] and appends a header and one line for
+/// Reads the first file in PathDati whose name begins with that of the report and appends a header and one line for
 /// each record to the file of the same name in PathReport, with "csv" for its last three characters. Lines end with CR
 /// LF, columns are parted by ';' and never quoted, texts are in the fixed code page.
 ///
 /// No matching file: a line in the log, and no file is made. A file that is shorter than its layout reads as if zeros
-/// followed. A number without a layout, and report 8, leave an empty file. Nothing is shown and nothing thrown.
+/// followed. The release, which has no layout, and report 8 leave an empty file. Nothing is shown and nothing thrown.
 void export_ReportEcr(std::uint8_t number);
 
 /// Appends one record of a report as a line of its CSV file, with its end. `record` has the layout's record size.

@@ -1,10 +1,13 @@
 #include "reports/export_run.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
+#include <limits>
 #include <string>
 
 #include "core/clock.h"
+#include "core/decimal.h"
 #include "core/run_log.h"
 #include "link/error_tables.h"
 #include "link/report_fetch.h"
@@ -23,9 +26,9 @@ std::string seconds_text(double seconds) {
   return {text.data(), end.ptr};
 }
 
-void export_one(std::uint8_t number) {
+void export_one(std::uint8_t number, std::int32_t lowest_quantity) {
   const double begun = now().second_of_day;
-  if (!Receive_ReportEcr(number)) return;
+  if (!Receive_ReportEcr(number, lowest_quantity)) return;
   export_ReportEcr(number);
   double passed = now().second_of_day - begun;
   if (passed < 0) passed += seconds_of_a_day;
@@ -34,14 +37,20 @@ void export_one(std::uint8_t number) {
 
 }  // namespace
 
-void export_reports(const std::vector<std::uint8_t>& numbers, const std::function<void(std::uint8_t)>& begins) {
+std::int32_t lowest_quantity_of(std::string_view typed) {
+  return static_cast<std::int32_t>(
+      std::clamp<std::int64_t>(leading_number(typed), 0, std::numeric_limits<std::int32_t>::max()));
+}
+
+void export_reports(const std::vector<std::uint8_t>& numbers, std::int32_t lowest_quantity,
+                    const std::function<void(std::uint8_t)>& begins) {
   for (const std::uint8_t number : numbers) {
     begins(number);
-    export_one(number);
+    export_one(number, lowest_quantity);
   }
   // Dealers look at the release that is left behind in this way.
   begins(FileNumber::release);
-  export_one(FileNumber::release);
+  export_one(FileNumber::release, lowest_quantity);
 }
 
 }  // namespace ecr

@@ -1,56 +1,23 @@
 #include "reports/frm_report_export.h"
 
-#include <optional>
 #include <vector>
 
 #include <QGridLayout>
 #include <QHBoxLayout>
 
 #include "core/global.h"
+#include "core/model.h"
 #include "core/run_log.h"
 #include "core/shell.h"
 #include "image/side_files.h"
-#include "link/report_fetch.h"
+#include "link/report_rows.h"
 #include "reports/export_run.h"
 #include "reports/frm_report_view.h"
-#include "reports/layout.h"
 #include "widgets/look.h"
 #include "widgets/screen_text.h"
 #include "widgets/wait_panel.h"
 
 namespace ecr {
-namespace {
-
-constexpr std::uint8_t open_tables = 15;
-
-struct ReportRow {
-  std::uint8_t number;
-  const char* built_in;
-  std::optional<Key> key;  ///< without one the box is never on show: a tick in the file alone asks for the report
-};
-constexpr ReportRow report_rows[] = {
-    {3, "Cash In Drawer Report", Key::FRM_REPORT_EXPORT_CHK_REPORT_3},
-    {4, "Financial (Z1) Report", Key::FRM_REPORT_EXPORT_CHK_REPORT_4},
-    {5, "Range Department Report", Key::FRM_REPORT_EXPORT_CHK_REPORT_5},
-    {6, "Department Group Report", std::nullopt},
-    {7, "All PLU Report", Key::FRM_REPORT_EXPORT_CHK_REPORT_7},
-    {8, "Range PLU Report", std::nullopt},
-    {9, "All Normal CLERK Report", Key::FRM_REPORT_EXPORT_CHK_REPORT_9},
-    {10, "All Training CLERK Report", Key::FRM_REPORT_EXPORT_CHK_REPORT_10},
-    {11, "Normal + Training CLERK Report", std::nullopt},
-    {12, "Time Report", Key::FRM_REPORT_EXPORT_CHK_REPORT_12},
-    {13, "Training Report", Key::FRM_REPORT_EXPORT_CHK_REPORT_13},
-    {14, "Financial (Z2) Report", Key::FRM_REPORT_EXPORT_CHK_REPORT_14},
-    {15, "Open Table Report", std::nullopt},
-    {16, "Full Report for EJ", Key::FRM_REPORT_EXPORT_CHK_REPORT_16},
-    {17, "Oldest Report for EJ", std::nullopt},
-    {18, "Lastest Report for EJ", std::nullopt},
-    {19, "Daily Report for EJ", std::nullopt},
-    {20, "All PLU Stock Report", Key::FRM_REPORT_EXPORT_CHK_REPORT_20},
-    {21, "Mini PLU Stock Report", Key::FRM_REPORT_EXPORT_CHK_REPORT_21},
-};
-
-}  // namespace
 
 FrmReportExport::FrmReportExport()
     : Screen{QStringLiteral("FrmReportExport")},
@@ -68,16 +35,16 @@ FrmReportExport::FrmReportExport()
   grid->setColumnStretch(0, 1);
   grid->setColumnStretch(1, 1);
   int place = 0;
-  for (const ReportRow& row : report_rows) {
+  for (const Report& report : exported_reports) {
     auto* check = new QCheckBox{this};
-    check->setObjectName(member_name("Chk_Report", row.number));
-    Chk_Report[static_cast<std::size_t>(row.number - first_report)] = check;
-    if (!row.key) {
-      Captions::fix(*check, row.built_in);
+    check->setObjectName(member_name("Chk_Report", report.number));
+    Chk_Report[report.number] = check;
+    if (!report.caption_key) {
+      Captions::fix(*check, report.caption);
       check->hide();
       continue;
     }
-    captions_.add(*check, *row.key, row.built_in);
+    captions_.add(*check, *report.caption_key, report.caption);
     // Two columns of six, read downwards.
     constexpr int rows_of_grid = 6;
     grid->addWidget(check, place % rows_of_grid, place / rows_of_grid, Qt::AlignLeft);
@@ -91,7 +58,6 @@ FrmReportExport::FrmReportExport()
   Txt_MPS_Min->let_in(Field::Keys::digits);
   Txt_MPS_Min->setAlignment(Qt::AlignRight);
   Txt_MPS_Min->setFixedWidth(110);
-  Txt_MPS_Min->on_change([this] { ecr::Txt_MPS_Min = page_bytes(Txt_MPS_Min->text()); });
   // Below the box of the report that it belongs to.
   auto* level = new QHBoxLayout;
   level->setContentsMargins(26, 0, 0, 0);
@@ -124,44 +90,38 @@ FrmReportExport::FrmReportExport()
   frame_.body->addLayout(bar);
 }
 
-QCheckBox* FrmReportExport::box(std::uint8_t number) const {
-  return Chk_Report[static_cast<std::size_t>(number - first_report)];
-}
-
 void FrmReportExport::load() {
   frame_.load_band();
   captions_.lay();
   guarded("FrmReportExport Form_load: ", [this] {
     Txt_MPS_Min->show_text(QStringLiteral("0"));
     Read_ExportOption();
-    for (std::uint8_t number = first_report; number <= last_report; ++number) {
-      box(number)->setChecked(ExportOption[number] == 1);
-    }
-    if (Global::EcrModel == Global::model_z300) {
-      box(open_tables)->setChecked(false);
-      box(open_tables)->setEnabled(false);
+    for (const auto& [number, box] : Chk_Report) {
+      box->setChecked(ExportOption[number] == 1);
+      if (is_on(report_numbered(number)->models, Global::EcrModel)) continue;
+      box->setChecked(false);
+      box->setEnabled(false);
     }
     shell().pointer(Pointer::normal);
   });
 }
 
 void FrmReportExport::save() const {
-  for (std::uint8_t number = first_report; number <= last_report; ++number) {
-    ExportOption[number] = box(number)->isChecked() ? 1 : 0;
-  }
+  for (const auto& [number, box] : Chk_Report) ExportOption[number] = box->isChecked() ? 1 : 0;
   Write_ExportOption();
 }
 
 void FrmReportExport::run_export() {
   std::vector<std::uint8_t> numbers;
-  for (std::uint8_t number = first_report; number <= last_report; ++number) {
-    if (box(number)->isChecked() && box(number)->isEnabled()) numbers.push_back(number);
+  for (const auto& [number, box] : Chk_Report) {
+    if (box->isChecked() && box->isEnabled()) numbers.push_back(number);
   }
   const BusyPointer busy;
-  // Behind the reports the release follows.
+  // After the reports the release follows.
   WaitSteps steps{static_cast<int>(numbers.size()) + 1};
-  export_reports(numbers, [this, &steps](std::uint8_t number) {
-    steps.next(number <= last_report ? box(number)->text() : QString{});
+  export_reports(numbers, lowest_quantity_of(page_bytes(Txt_MPS_Min->text())), [this, &steps](std::uint8_t number) {
+    const auto box = Chk_Report.find(number);
+    steps.next(box == Chk_Report.end() ? QString{} : box->second->text());
   });
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 // Which reports are read from the register, and the run that turns them into CSV files.
 
-#include <array>
 #include <cstdint>
+#include <map>
 
 #include <QCheckBox>
 
@@ -24,12 +24,10 @@ class FrmReportExport : public Screen {
  private:
   void save() const;
   void run_export();
-  [[nodiscard]] QCheckBox* box(std::uint8_t number) const;
 
   ScreenFrame frame_;
   Captions captions_;
-  // Members have the report numbers, from 3 on.
-  std::array<QCheckBox*, 19> Chk_Report{};
+  std::map<std::uint8_t, QCheckBox*> Chk_Report;  ///< by report number
   QLabel* L_MPS_Level;
   Field* Txt_MPS_Min;
   QLabel* L_MPS_Min;

@@ -18,6 +18,7 @@
 #include "core/global.h"
 #include "core/run_log.h"
 #include "core/shell.h"
+#include "link/report_rows.h"
 #include "reports/report_print.h"
 #include "widgets/look.h"
 #include "widgets/screen_text.h"

@@ -1,5 +1,8 @@
 #include "reports/layout.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "image/prg_plu.h"
 
 namespace ecr {
@@ -80,33 +83,39 @@ constexpr ReportLayout journal(std::span<const ReportColumn> columns) {
   return {journal_record_size, RecordCount::journal, 0, columns};
 }
 
-// By report number, from the first one on.
-constinit const std::array<ReportLayout, last_report - first_report + 1> layouts = {{
-    fixed(1, drawer_size, drawer_columns),                                   // 3 cash in drawer
-    fixed(1, financial_size, financial_columns),                             // 4 financial, Z1
-    fixed(99, department_size, department_columns),                          // 5 departments
-    fixed(1, department_size, department_columns),                           // 6 department group
-    fixed(plu_records, plu_size, plu_columns),                               // 7 all items
-    fixed(1, plu_size, {}),                                                  // 8 item range: its file stays empty
-    fixed(15, clerk_size, clerk_columns),                                    // 9 clerks
-    fixed(15, clerk_size, clerk_columns),                                    // 10 clerks in training
-    fixed(1, double_clerk_size, double_clerk_columns, double_clerk_header),  // 11 both
-    fixed(24, time_size, time_columns),                                      // 12 hours
-    fixed(1, short_financial_size, short_financial_columns),                 // 13 training
-    fixed(1, short_financial_size, short_financial_columns),                 // 14 financial, Z2
-    fixed(70, table_size, table_columns),                                    // 15 open tables
-    journal(full_journal_columns),                                           // 16 the whole journal
-    journal(journal_columns),                                                // 17 the oldest of it
-    journal(journal_columns),                                                // 18 the latest
-    journal(journal_columns),                                                // 19 the day's
-    fixed(plu_records, stock_size, stock_columns),                           // 20 stock of all items
-    {stock_size, RecordCount::by_size, 0, stock_columns},                    // 21 items low in stock
-}};
+struct LayoutRow {
+  std::uint8_t number;
+  ReportLayout layout;
+};
+
+constinit const LayoutRow layouts[] = {
+    {3, fixed(1, drawer_size, drawer_columns)},
+    {4, fixed(1, financial_size, financial_columns)},
+    {5, fixed(99, department_size, department_columns)},
+    {6, fixed(1, department_size, department_columns)},
+    {7, fixed(plu_records, plu_size, plu_columns)},
+    {8, fixed(1, plu_size, {})},  // its file stays empty
+    {9, fixed(15, clerk_size, clerk_columns)},
+    {10, fixed(15, clerk_size, clerk_columns)},
+    {11, fixed(1, double_clerk_size, double_clerk_columns, double_clerk_header)},
+    {12, fixed(24, time_size, time_columns)},
+    {13, fixed(1, short_financial_size, short_financial_columns)},
+    {14, fixed(1, short_financial_size, short_financial_columns)},
+    {15, fixed(70, table_size, table_columns)},
+    {16, journal(full_journal_columns)},
+    {17, journal(journal_columns)},
+    {18, journal(journal_columns)},
+    {19, journal(journal_columns)},
+    {20, fixed(plu_records, stock_size, stock_columns)},
+    {21, {stock_size, RecordCount::by_size, 0, stock_columns}},
+};
 
 }  // namespace
 
 const ReportLayout* report_layout(std::uint8_t number) {
-  return number < first_report || number > last_report ? nullptr : &layouts[number - first_report];
+  const auto* row = std::find_if(std::begin(layouts), std::end(layouts),
+                                 [number](const LayoutRow& each) { return each.number == number; });
+  return row == std::end(layouts) ? nullptr : &row->layout;
 }
 
 std::string report_header(const ReportLayout& layout) {

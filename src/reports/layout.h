@@ -45,9 +45,6 @@ struct ReportLayout {
   const char* other_header = nullptr;     ///< the header, where it is not that of the columns
 };
 
-inline constexpr std::uint8_t first_report = 3;
-inline constexpr std::uint8_t last_report = 21;
-
 /// The layout of a report; nullptr for a number that has none.
 [[nodiscard]] const ReportLayout* report_layout(std::uint8_t number);
 

@@ -9,6 +9,7 @@
 #include "core/fault.h"
 #include "core/text.h"
 #include "lang/own_texts.h"
+#include "link/report_rows.h"
 #include "reports/layout.h"
 #include "reports/report_names.h"
 
@@ -17,14 +18,6 @@ namespace {
 
 // From so many columns on a record stands upright.
 constexpr std::size_t upright_from = 20;
-
-bool is_clerk_report(std::uint8_t number) {
-  return number >= 9 && number <= 11;
-}
-
-bool is_stock_report(std::uint8_t number) {
-  return number == 20 || number == 21;
-}
 
 /// The separators of a name stand in the file as they are: what is too much belongs to the name, behind the code.
 void join_name(std::vector<std::string>& row, std::size_t columns) {
@@ -78,7 +71,7 @@ std::string sum_of(const std::vector<std::vector<std::string>>& rows, std::size_
 }
 
 ReportTable upright(std::uint8_t number, const CsvExport& exported) {
-  const std::size_t first = is_clerk_report(number) ? 1 : 0;
+  const std::size_t first = report_kind(number) == ReportKind::clerks ? 1 : 0;
   ReportTable table;
   const bool has_sum = exported.rows.size() > 1;
   table.columns.push_back({own_bytes(OwnText::total)});
@@ -147,37 +140,39 @@ int sign_of(int comparison) {
 
 ReportTable report_table(std::uint8_t number, const CsvExport& exported) {
   const ReportLayout* layout = layout_of(number, exported);
+  const ReportKind kind = report_kind(number);
+  const bool is_stock = kind == ReportKind::stock;
   if (layout != nullptr && layout->columns.size() >= upright_from) return upright(number, exported);
   ReportTable table;
   for (std::size_t i = 0; i < exported.heading.size(); ++i) {
     ReportTable::Column column{exported.heading[i]};
     if (layout != nullptr && i < layout->columns.size()) {
-      const ColumnKind kind = layout->columns[i].kind;
-      column.is_number = kind < ColumnKind::text;
-      column.is_summed = kind == ColumnKind::value || kind == ColumnKind::int32 ||
-                         (kind == ColumnKind::count && layout->columns[i].width < 8);
+      const ColumnKind form = layout->columns[i].kind;
+      column.is_number = form < ColumnKind::text;
+      column.is_summed = form == ColumnKind::value || form == ColumnKind::int32 ||
+                         (form == ColumnKind::count && layout->columns[i].width < 8);
       // An item without stock is worth seeing, a row without an item is not.
-      column.is_figure = is_stock_report(number) ? kind == ColumnKind::count : column.is_summed;
+      column.is_figure = is_stock ? form == ColumnKind::count : column.is_summed;
     }
     table.columns.push_back(std::move(column));
   }
   table.rows = exported.rows;
   for (auto& row : table.rows) {
-    if (layout != nullptr && is_stock_report(number)) join_name(row, table.columns.size());
+    if (layout != nullptr && is_stock) join_name(row, table.columns.size());
     row.resize(table.columns.size());
   }
   if (layout == nullptr) return table;
-  if (number == 5 || number == 6) {
+  if (kind == ReportKind::departments || kind == ReportKind::department_group) {
     insert_column(table, 2, OwnText::department, [](std::size_t, const auto& row) {
       return department_name(static_cast<int>(leading_number(row[1])));
     });
-  } else if (number == 7) {
+  } else if (kind == ReportKind::items) {
     const auto names = item_names();
     insert_column(table, 1, OwnText::item, [&names](std::size_t, const auto& row) {
       const auto found = names.find(row[0]);
       return found == names.end() ? std::string{} : found->second;
     });
-  } else if (number == 12) {
+  } else if (kind == ReportKind::hours) {
     insert_column(table, 0, OwnText::hour, [](std::size_t i, const auto&) { return hour_text(i); });
   }
   return table;

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "emulator/emulator_test.h"
-#include "link/error_tables.h"
+#include "link/report_rows.h"
 
 namespace ecr::test {
 namespace {
@@ -25,7 +25,7 @@ TEST_F(ReportTest, ARegisterThatNeverTradedHasReportsOfFullLengthWithZeroTotals)
                                                        {13, 552}, {14, 552}, {15, 350},  {20, 90000}};
   for (const auto& [file, length] : lengths) {
     EXPECT_EQ(changing_nothing([this, file = file] { return send_cmd(upload, file); }), done) << int{file};
-    const std::string report = bytes("Dati/" + std::string{ReportName[file]} + ".bin");
+    const std::string report = bytes("Dati/" + std::string{report_name(file)} + ".bin");
     EXPECT_EQ(report.size(), length) << int{file};
     // Numbers of departments, groups, clerks and tables are there, and the blank names of the items without one.
     const bool numbered = file == 5 || file == 6 || file == 9 || file == 10 || file == 15 || file == 20;
@@ -35,7 +35,7 @@ TEST_F(ReportTest, ARegisterThatNeverTradedHasReportsOfFullLengthWithZeroTotals)
   }
   for (const std::uint8_t file : Bytes{16, 17, 18, 19, 21}) {
     EXPECT_EQ(changing_nothing([this, file] { return send_cmd(upload, file); }), done) << int{file};
-    EXPECT_EQ(bytes("Dati/" + std::string{ReportName[file]} + ".bin"), "") << int{file};
+    EXPECT_EQ(bytes("Dati/" + std::string{report_name(file)} + ".bin"), "") << int{file};
   }
 }
 
@@ -54,7 +54,7 @@ TEST_F(ReportTest, AReportIsAnsweredWithTheBytesOfItsFile) {
   for (std::uint8_t file = 3; file <= 21; ++file) {
     const std::string sent = random_bytes(file, 100 + std::size_t{file});
     write("register/reports/" + std::to_string(file) + ".bin", sent);
-    const std::string target = "Dati/" + std::string{ReportName[file]} + ".bin";
+    const std::string target = "Dati/" + std::string{report_name(file)} + ".bin";
     EXPECT_EQ(changing_nothing([this, file] { return send_cmd(upload, file); }), done) << int{file};
     EXPECT_EQ(bytes(target), sent) << int{file};
     remove(target);

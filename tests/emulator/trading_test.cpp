@@ -8,7 +8,7 @@
 #include "core/global.h"
 #include "core/register_text.h"
 #include "core/text.h"
-#include "link/error_tables.h"
+#include "link/report_rows.h"
 #include "reports/export_report.h"
 
 namespace ecr::test {
@@ -99,12 +99,12 @@ void TradingTest::trade(int days) {
 
 std::string TradingTest::fetched(std::uint8_t number) const {
   EXPECT_EQ(send_cmd(upload, number), done) << int{number};
-  return bytes("Dati/" + std::string{ReportName[number]} + ".bin");
+  return bytes("Dati/" + std::string{report_name(number)} + ".bin");
 }
 
 std::string TradingTest::fetched(std::uint8_t number, std::int32_t from, std::int32_t to) const {
   EXPECT_EQ(range_report(number, from, to), done) << int{number};
-  return bytes("Dati/" + std::string{ReportName[number]} + ".bin");
+  return bytes("Dati/" + std::string{report_name(number)} + ".bin");
 }
 
 ReportTable TradingTest::table(std::uint8_t number) const {
@@ -112,7 +112,7 @@ ReportTable TradingTest::table(std::uint8_t number) const {
   remove("Dati");
   make_folder("Dati");
   static_cast<void>(fetched(number));
-  const std::string csv = "Report/" + std::string{ReportName[number]} + ".csv";
+  const std::string csv = "Report/" + std::string{report_name(number)} + ".csv";
   if (exists(csv)) remove(csv);
   export_ReportEcr(number);
   const std::string text = bytes(csv);

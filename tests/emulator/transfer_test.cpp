@@ -10,6 +10,7 @@
 #include "emulator/emulator_test.h"
 #include "emulator/tool_codes.h"
 #include "link/error_tables.h"
+#include "link/report_rows.h"
 
 namespace ecr::test {
 namespace {
@@ -218,7 +219,7 @@ TEST(EmulatedRegisterCodes, AreAllKnownToTheProgram) {
 
 TEST(EmulatedRegisterCodes, NameTheReportsAsTheProgramDoes) {
   for (std::size_t i = 0; i < report_file_names.size(); ++i) {
-    EXPECT_EQ(report_file_names.at(i), ReportName.at(i + ToolFile::first_report));
+    EXPECT_EQ(report_file_names.at(i), report_name(static_cast<std::uint8_t>(i + ToolFile::first_report)));
   }
 }
 

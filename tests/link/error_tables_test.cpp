@@ -96,45 +96,12 @@ TEST(ErrorTables, CodesThatNoTableHoldsHaveNoDescription) {
   }
 }
 
-TEST(ErrorTables, ReportsAreNamedByTheirFileNumbers) {
-  const std::vector<std::string_view> names = {"",
-                                               "",
-                                               "",
-                                               "C-I-D",
-                                               "FINANCIAL",
-                                               "RANGE DEPT",
-                                               "DEPT GROUP",
-                                               "ALL PLU",
-                                               "RANGE PLU",
-                                               "ALL CLERK",
-                                               "ALL T-CLERK",
-                                               "NT-CLERK",
-                                               "TIME",
-                                               "TRAINING",
-                                               "FINANCIAL2",
-                                               "OPEN TBL",
-                                               "FULL EJ",
-                                               "OLD EJ",
-                                               "LATE EJ",
-                                               "DAILY EJ",
-                                               "ASK",
-                                               "MSK",
-                                               "RELEASE",
-                                               "",
-                                               ""};
-  ASSERT_EQ(names.size(), 25U);
-  ASSERT_EQ(ReportName.size(), names.size());
-  for (std::size_t number = 0; number < names.size(); ++number) EXPECT_EQ(ReportName[number], names[number]) << number;
-}
-
 TEST(ErrorTables, FileNumbersAndResultCodesHaveTheirValues) {
   EXPECT_EQ(FileNumber::image, 0);
   EXPECT_EQ(FileNumber::plu, 1);
   EXPECT_EQ(FileNumber::logo, 2);
-  EXPECT_EQ(ReportName[FileNumber::range_dept], "RANGE DEPT");
-  EXPECT_EQ(ReportName[FileNumber::time], "TIME");
-  EXPECT_EQ(ReportName[FileNumber::msk], "MSK");
-  EXPECT_EQ(ReportName[FileNumber::release], "RELEASE");
+  EXPECT_EQ(FileNumber::time, 12);
+  EXPECT_EQ(FileNumber::release, 22);
   EXPECT_EQ(ResultCode::done, 0);
   EXPECT_EQ(ResultCode::port_not_opened, 1025);
   EXPECT_EQ(ResultCode::busy, 4097);

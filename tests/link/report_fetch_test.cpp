@@ -1,11 +1,12 @@
 #include "link/report_fetch.h"
 
 #include <gtest/gtest.h>
+#include <limits>
 #include <string>
 #include <vector>
 
 #include "core/global.h"
-#include "link/error_tables.h"
+#include "link/report_rows.h"
 #include "support/fake_system.h"
 #include "support/installation.h"
 
@@ -47,28 +48,31 @@ TEST_F(ReportFetch, Report5AsksForItsWholeRange) {
   EXPECT_EQ(link().calls, Lines{"range_report folder=. file=5 timeout=120 from=1 to=99 port=4"});
 }
 
-TEST_F(ReportFetch, Report21AsksFromTheLowerLimitOfItsField) {
-  struct Row {
-    const char* text;
-    const char* from;
-  };
-  const Row rows[] = {{"0", "0"},
-                      {"", "0"},
-                      {"17", "17"},
-                      {"0017", "17"},
-                      {"9999", "9999"},
-                      {"123456", "123456"},
-                      {"12x", "12"},
-                      {"-5", "0"},
-                      {"2147483647", "2147483647"},
-                      {"99999999999999999999", "2147483647"}};
-  for (const Row& row : rows) {
+TEST_F(ReportFetch, Report21AsksFromTheRecordThatItIsGiven) {
+  for (const std::int32_t first : {0, 17, 9999, 123456, std::numeric_limits<std::int32_t>::max()}) {
     link().calls.clear();
-    Txt_MPS_Min = row.text;
-    EXPECT_TRUE(Receive_ReportEcr(21));
+    EXPECT_TRUE(Receive_ReportEcr(21, first));
     EXPECT_EQ(link().calls,
-              Lines{std::string{"range_report folder=. file=21 timeout=120 from="} + row.from + " to=9999 port=4"});
+              Lines{"range_report folder=. file=21 timeout=120 from=" + std::to_string(first) + " to=9999 port=4"});
   }
+  link().calls.clear();
+  EXPECT_TRUE(Receive_ReportEcr(21));
+  EXPECT_EQ(link().calls, Lines{"range_report folder=. file=21 timeout=120 from=0 to=9999 port=4"});
+}
+
+TEST_F(ReportFetch, NoOtherReportTakesTheRecordThatItIsGiven) {
+  link();
+  EXPECT_TRUE(Receive_ReportEcr(5, 17));
+  EXPECT_TRUE(Receive_ReportEcr(20, 17));
+  EXPECT_EQ(link().calls, (Lines{"range_report folder=. file=5 timeout=120 from=1 to=99 port=4", fetch_call(20, 60)}));
+}
+
+TEST_F(ReportFetch, ANumberThatIsNoReportsMovesAndAsksNothing) {
+  write("Dati/TIME.bin", "kept");
+  link();
+  for (const int number : {0, 1, 2, 23, 24, 255}) EXPECT_FALSE(Receive_ReportEcr(static_cast<std::uint8_t>(number)));
+  EXPECT_TRUE(link().calls.empty());
+  EXPECT_EQ(bytes("Dati/TIME.bin"), "kept");
 }
 
 TEST_F(ReportFetch, AnOlderReportIsMovedAwayBeforeTheNewOneArrives) {
@@ -132,7 +136,7 @@ TEST_F(ReportFetch, ANameThatBeginsLikeAnotherIsMovedWithIt) {
 TEST_F(ReportFetch, EveryReportDisplacesTheFileOfItsOwnName) {
   link();
   for (std::uint8_t report = 3; report <= 22; ++report) {
-    const std::string name = std::string{ReportName[report]} + " 01.bin";
+    const std::string name = std::string{report_name(report)} + " 01.bin";
     SCOPED_TRACE(name);
     write("Dati/" + name, "old " + name);
     EXPECT_TRUE(Receive_ReportEcr(report));

@@ -15,8 +15,8 @@ class ExportRun : public ReportTest {
  protected:
   ExportRun() { Global::ComPort = 4; }
 
-  void run(const std::vector<std::uint8_t>& numbers) {
-    export_reports(numbers, [this](std::uint8_t number) { begun.push_back(number); });
+  void run(const std::vector<std::uint8_t>& numbers, std::int32_t lowest_quantity = 0) {
+    export_reports(numbers, lowest_quantity, [this](std::uint8_t number) { begun.push_back(number); });
   }
 
   std::vector<int> begun;
@@ -66,6 +66,29 @@ TEST_F(ExportRun, PassesOverWhatIsRefusedAndDecodesNothingOld) {
   EXPECT_TRUE(said[0].starts_with("Receive_ReportEcr error. File 3 Code: 1001 Desc: "));
   EXPECT_EQ(said[1], "Time for download report 12 is:0");
   EXPECT_EQ(said[2], "Receive_ReportEcr error using regwire");
+}
+
+TEST_F(ExportRun, AsksForTheStockFromTheLowestQuantityOn) {
+  link();
+  run({20, 21, 5}, 125);
+  EXPECT_EQ(link().calls, (Lines{"send_cmd folder=. direction=0 file=20 timeout=60 port=4",
+                                 "range_report folder=. file=21 timeout=120 from=125 to=9999 port=4",
+                                 "range_report folder=. file=5 timeout=120 from=1 to=99 port=4",
+                                 "send_cmd folder=. direction=0 file=22 timeout=60 port=4"}));
+}
+
+TEST(LowestQuantity, IsTheNumberInFrontOfWhatWasTyped) {
+  const std::vector<std::pair<std::string, std::int32_t>> rows = {{"0", 0},
+                                                                  {"", 0},
+                                                                  {"17", 17},
+                                                                  {"0017", 17},
+                                                                  {"9999", 9999},
+                                                                  {"123456", 123456},
+                                                                  {"12x", 12},
+                                                                  {"-5", 0},
+                                                                  {"2147483647", 2147483647},
+                                                                  {"99999999999999999999", 2147483647}};
+  for (const auto& [typed, quantity] : rows) EXPECT_EQ(lowest_quantity_of(typed), quantity) << typed;
 }
 
 TEST_F(ExportRun, LogsAReportThatWasDeliveredUnderAnotherName) {

@@ -8,7 +8,7 @@
 
 #include "core/files.h"
 #include "core/global.h"
-#include "link/error_tables.h"
+#include "link/report_rows.h"
 #include "reports/export_report.h"
 #include "support/installation.h"
 
@@ -49,7 +49,7 @@ class ReportTest : public InstallationTest {
     Global::DecimalPoint = 2;
   }
 
-  [[nodiscard]] static std::string name_of(std::uint8_t number) { return std::string{ReportName[number]}; }
+  [[nodiscard]] static std::string name_of(std::uint8_t number) { return std::string{report_name(number)}; }
 
   /// What becomes of a report file with these bytes.
   std::string exported(std::uint8_t number, std::string_view file) {

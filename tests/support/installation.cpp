@@ -19,7 +19,6 @@
 #include "lang/language.h"
 #include "link/firmware.h"
 #include "link/ports.h"
-#include "link/report_fetch.h"
 #include "platform/platform.h"
 
 namespace ecr::test {
@@ -44,7 +43,6 @@ void reset_everything() {
   reset_language();
   reset_firmware();
   reset_ports();
-  Txt_MPS_Min.clear();
   install_link_library(nullptr);
 }
 
