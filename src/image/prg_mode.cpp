@@ -60,6 +60,10 @@ void Write_PrgMode() {
   static_cast<void>(overwrite_file(image_file(), bytes_of_image(PrgMode)));
 }
 
+void take_decimal_point() {
+  Global::DecimalPoint = PrgMode.SysOpt0;
+}
+
 std::uint8_t& image_byte(std::size_t offset) {
   if (offset >= prg_mode_size) throw FaultError{FaultCode::out_of_range};
   return reinterpret_cast<std::uint8_t*>(&PrgMode)[offset];

@@ -248,6 +248,9 @@ bool Read_PrgMode(bool toComparison = false);
 /// is silent.
 void Write_PrgMode();
 
+/// Takes over the decimals of amounts from the working image, its SysOpt0. The one writer of Global::DecimalPoint.
+void take_decimal_point();
+
 /// Whether the digit keys 1 to 9 lie in `KeyLayout` where the keyboard of the model has them. `model` is a value of
 /// Global::EcrModel.
 [[nodiscard]] bool keypad_matches(const PrgModeImage& image, std::uint8_t model);

@@ -1,7 +1,6 @@
 #include "screens/frm_setup.h"
 
 #include "captions/text_files.h"
-#include "core/global.h"
 #include "core/run_log.h"
 #include "core/shell.h"
 #include "image/prg_mode.h"
@@ -36,7 +35,7 @@ FrmSetup::FrmSetup() : MenuScreen{QStringLiteral("FrmSetup"), rows, 2, Key::FRM_
 }
 
 void FrmSetup::load() {
-  Global::DecimalPoint = PrgMode.SysOpt0;
+  take_decimal_point();
   MenuScreen::load();
 }
 

@@ -416,6 +416,14 @@ TEST_F(ProgrammingImage, AWriteThatFailsLeavesTheOldFileAndSaysNothing) {
   EXPECT_TRUE(log().empty());
 }
 
+TEST_F(ProgrammingImage, TheDecimalsOfAmountsAreTakenFromIt) {
+  for (const int decimals : {3, 0, 255}) {
+    PrgMode.SysOpt0 = static_cast<std::uint8_t>(decimals);
+    take_decimal_point();
+    EXPECT_EQ(Global::DecimalPoint, decimals);
+  }
+}
+
 // The keypad test
 
 TEST_F(ProgrammingImage, TheDigitKeysMustLieWhereTheModelHasThem) {

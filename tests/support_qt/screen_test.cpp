@@ -111,7 +111,7 @@ void ScreenTest::start_session(std::uint8_t model) {
   Global::choose_model(model);
   Global::ComPort = 4;
   lay_down(good_image(model));
-  Global::DecimalPoint = PrgMode.SysOpt0;
+  take_decimal_point();
 }
 
 void ScreenTest::install_setup() const {

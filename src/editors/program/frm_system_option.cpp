@@ -9,7 +9,6 @@
 
 #include "core/codecs.h"
 #include "core/fault.h"
-#include "core/global.h"
 #include "editors/form_grid.h"
 #include "editors/program/number_texts.h"
 #include "image/prg_mode.h"
@@ -215,7 +214,7 @@ void FrmSystemOption::save() {
     number_to_bcds(bytes_of_counter(row), counter_of(counters_[i]->text(), row));
   }
   lists_.save();
-  Global::DecimalPoint = PrgMode.SysOpt0;
+  take_decimal_point();
   Write_PrgMode();
 }
 
