@@ -5,7 +5,7 @@
 #include <QTabBar>
 
 #include "captions/parent_of_pages.h"
-#include "core/global.h"
+#include "core/model.h"
 #include "core/register_text.h"
 #include "core/shell.h"
 #include "image/prg_mode.h"
@@ -122,8 +122,8 @@ void FrmCaptionSetting::save() {
   store_lines(receipt_->lines(LineGroup::header), PrgMode.ReceiptHeader);
   store_lines(receipt_->lines(LineGroup::footer), PrgMode.ReceiptFooter);
   store_lines(receipt_->lines(LineGroup::abbreviations), PrgMode.Abr);
-  // The Z300 keeps the invoice lines that it has, whatever the screen shows.
-  if (Global::EcrModel == Global::model_z320) {
+  // A model without them keeps the invoice lines that it has, whatever the screen shows.
+  if (chosen_model().has_extra_invoice) {
     store_lines(receipt_->lines(LineGroup::extra_invoice), PrgMode.ExtraInvoice);
   }
   store_lines(receipt_->lines(LineGroup::other), PrgMode.Other);

@@ -6,7 +6,7 @@
 #include <QTabBar>
 
 #include "captions/parent_of_pages.h"
-#include "core/global.h"
+#include "core/model.h"
 #include "widgets/controls.h"
 #include "widgets/look.h"
 #include "widgets/screen_text.h"
@@ -93,7 +93,7 @@ QWidget* ReceiptPage::make_group(LineGroup group) {
     QLabel* hint = make_label(QStringLiteral("L_NoZ300"), page);
     make_hint(*hint);
     hint->setWordWrap(true);
-    hint->setVisible(Global::EcrModel == Global::model_z300);
+    hint->setVisible(!chosen_model().has_extra_invoice);
     grid->addWidget(hint, about.lines, 1);
     L_NoZ300 = hint;
   }

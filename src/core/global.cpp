@@ -3,6 +3,7 @@
 #include <array>
 
 #include "core/files.h"
+#include "core/model.h"
 
 namespace ecr::Global {
 
@@ -40,12 +41,12 @@ void set_folders(std::string_view application_folder) {
 
 void choose_model(std::uint8_t model) {
   EcrModel = model;
-  PathModel = PathDati + (model == model_z320 ? "ECRZ320\\" : "ECRZ300\\");
+  PathModel = PathDati + std::string{chosen_model().name} + "\\";
   MaxPlu = 3000;
 }
 
 std::string_view model_prefix() {
-  return EcrModel == model_z320 ? "ECRZ320_" : "ECRZ300_";
+  return chosen_model().file_prefix;
 }
 
 void crea_cartelle() {

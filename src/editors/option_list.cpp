@@ -4,7 +4,7 @@
 #include <stdexcept>
 
 #include "core/codecs.h"
-#include "core/global.h"
+#include "core/model.h"
 #include "image/prg_mode.h"
 #include "widgets/controls.h"
 #include "widgets/screen_text.h"
@@ -68,7 +68,7 @@ void OptionLists::load() const {
   for (const Controls& controls : controls_) {
     const OptionRow& row = *controls.row;
     controls.list->fill(entries_of(row.choices));
-    const bool is_there = row.models == OptionModels::both || Global::EcrModel == Global::model_z320;
+    const bool is_there = is_on_chosen_model(row.models);
     controls.label->setVisible(is_there);
     controls.list->setVisible(is_there);
   }

@@ -12,6 +12,7 @@
 #include <string_view>
 
 #include "core/catalogue.h"
+#include "core/model.h"
 
 namespace ecr {
 
@@ -63,11 +64,6 @@ enum class OptionLoad : std::uint8_t {
   mends_unknown,    ///< a byte that is no entry's digit becomes 0 in the working image, and 0 is shown
 };
 
-enum class OptionModels : std::uint8_t {
-  both,
-  z320_only,  ///< out of sight on the Z300; loaded and saved there all the same
-};
-
 struct OptionRow {
   std::string_view control;
   std::string_view label;
@@ -76,7 +72,8 @@ struct OptionRow {
   std::span<const Choice> choices = {};
   OptionPlace place = {};
   OptionLoad load = OptionLoad::plain;
-  OptionModels models = OptionModels::both;
+  /// On the other model the list is out of sight; it is loaded and saved there all the same.
+  Models models = Models::both;
   /// The list whose number is saved at this row's place. Empty: this row's own.
   std::string_view saved_from = {};
 };

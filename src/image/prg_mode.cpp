@@ -6,6 +6,7 @@
 #include "core/catalogue.h"
 #include "core/files.h"
 #include "core/global.h"
+#include "core/model.h"
 #include "core/shell.h"
 
 namespace ecr {
@@ -15,29 +16,20 @@ std::string image_file() {
   return Global::PathDati + "PRG_MODE.BIN";
 }
 
-// Positions of the keys 7, 4 and 1; the other two of each row lie on the next two positions.
-struct Keypad {
-  std::size_t seven;
-  std::size_t four;
-  std::size_t one;
-};
-constexpr Keypad keypad_z300{12, 23, 34};
-constexpr Keypad keypad_z320{39, 54, 69};
-
 }  // namespace
 
 PrgModeImage PrgMode{};
 PrgModeImage PrgModeComparison{};
 
 bool keypad_matches(const PrgModeImage& image, std::uint8_t model) {
-  const Keypad& keypad = model == Global::model_z320 ? keypad_z320 : keypad_z300;
+  const DigitKeys& digits = model_row(model).digits;
   const auto row_holds = [&](std::size_t position, std::uint8_t first_digit) {
     for (std::size_t i = 0; i < 3; ++i) {
       if (image.KeyLayout[position + i] != first_digit + i) return false;
     }
     return true;
   };
-  return row_holds(keypad.seven, 7) && row_holds(keypad.four, 4) && row_holds(keypad.one, 1);
+  return row_holds(digits.seven, 7) && row_holds(digits.four, 4) && row_holds(digits.one, 1);
 }
 
 std::string_view bytes_of_image(const PrgModeImage& image) noexcept {

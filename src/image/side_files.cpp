@@ -7,6 +7,7 @@
 
 #include "core/files.h"
 #include "core/global.h"
+#include "core/model.h"
 
 namespace ecr {
 namespace {
@@ -18,7 +19,7 @@ std::string export_option_file() {
   return Global::PathSetup + "ExportOption.ini";
 }
 std::string key_default_file() {
-  return Global::PathDati + (Global::EcrModel == Global::model_z320 ? "KEY_DEFAULTZ320.BIN" : "KEY_DEFAULTZ300.BIN");
+  return Global::PathDati + std::string{chosen_model().keyboard_file};
 }
 
 /// The head of the file into the bytes; a missing file is created empty.

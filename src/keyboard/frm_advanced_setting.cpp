@@ -5,6 +5,7 @@
 #include <QPainter>
 
 #include "core/global.h"
+#include "core/model.h"
 #include "core/run_log.h"
 #include "image/prg_mode.h"
 #include "image/side_files.h"
@@ -24,14 +25,15 @@ constexpr std::array<TabCaption, 3> tab_captions = {
      {Key::FRM_ADVANCED_SETTINF_TAB2_ADVANCED_OPTION, "FREE KEY LAYOUT"},
      {Key::FRM_ADVANCED_SETTINF_TAB3_ADVANCED_OPTION, "POP UP KEY SELECT"}}};
 
-constexpr int z300_tab = 0;
-constexpr int z320_tab = 1;
 constexpr int chain_rows = 5;
 constexpr int pop_rows = 11;
 
-bool is_z320() {
-  return Global::EcrModel == Global::model_z320;
-}
+struct KeyboardTab {
+  const char* picture;
+  const char* caption;
+};
+// By model number.
+constexpr std::array<KeyboardTab, model_rows.size()> keyboard_tabs = {{{"L_key", "ECR Z300"}, {"L_key2", "ECRZ320"}}};
 
 /// The page that all tabs of a bar have in common, with the line that every page has at its top.
 class CommonPage : public QWidget {
@@ -143,10 +145,12 @@ QWidget* FrmAdvancedSetting::keyboard_page() {
   down->addWidget(help);
 
   Tab_Keyboard = make_tabs("Tab_Keyboard", "Keyboard", page);
-  L_key = new KeyboardPicture{keyboard_form(Global::model_z300), "L_key", Tab_Keyboard};
-  L_key2 = new KeyboardPicture{keyboard_form(Global::model_z320), "L_key2", Tab_Keyboard};
-  Tab_Keyboard->addTab(L_key, QStringLiteral("ECR Z300"));
-  Tab_Keyboard->addTab(L_key2, QStringLiteral("ECRZ320"));
+  for (const Model& model : model_rows) {
+    const KeyboardTab& tab = keyboard_tabs.at(model.number);
+    auto* keyboard = new KeyboardPicture{keyboard_form(model.number), tab.picture, Tab_Keyboard};
+    Tab_Keyboard->addTab(keyboard, QString::fromLatin1(tab.caption));
+    keyboards_.at(model.number) = keyboard;
+  }
   down->addWidget(Tab_Keyboard, 1);
   return page;
 }
@@ -199,7 +203,7 @@ void FrmAdvancedSetting::wire() {
     L_Preview->show_line(Cmb_KeyList->text());
     own_keyboard().mark(chosen_function());
   });
-  for (KeyboardPicture* keyboard : {L_key, L_key2}) {
+  for (KeyboardPicture* keyboard : keyboards_) {
     keyboard->on_press([this](std::uint8_t key) { assign(key, chosen_function()); });
     keyboard->on_drop([this](std::uint8_t key, std::uint8_t code) { assign(key, code); });
   }
@@ -250,11 +254,11 @@ void FrmAdvancedSetting::go_to_chain(int tab) {
 }
 
 void FrmAdvancedSetting::show_own_keyboard() {
-  Tab_Keyboard->setCurrentIndex(is_z320() ? z320_tab : z300_tab);
+  Tab_Keyboard->setCurrentIndex(chosen_model().number);
 }
 
 KeyboardPicture& FrmAdvancedSetting::own_keyboard() const {
-  return is_z320() ? *L_key2 : *L_key;
+  return *keyboards_.at(chosen_model().number);
 }
 
 void FrmAdvancedSetting::assign(std::uint8_t key, std::uint8_t code) {

@@ -62,8 +62,7 @@ class FrmAdvancedSetting : public Screen {
   CommandButton* C_RestoreDefault = nullptr;
   CommandButton* C_nuovi_default = nullptr;
   QTabWidget* Tab_Keyboard = nullptr;
-  KeyboardPicture* L_key = nullptr;   ///< of the Z300
-  KeyboardPicture* L_key2 = nullptr;  ///< of the Z320
+  std::array<KeyboardPicture*, 2> keyboards_{};  ///< L_key and L_key2, by model number
 
   std::uint8_t current_chain_ = 0;
   FreeLayout layout_;

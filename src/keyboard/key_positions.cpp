@@ -2,14 +2,14 @@
 
 #include <algorithm>
 
-#include "core/global.h"
+#include "core/model.h"
 
 namespace ecr {
 
 PositionMap KeyOfPosition{};
 
 void assegna_Code_key() {
-  KeyOfPosition = Global::EcrModel == Global::model_z320 ? z320_position_map : z300_position_map;
+  KeyOfPosition = *position_maps.at(chosen_model().number);
 }
 
 std::int16_t n_tasto_to_key_position(std::uint8_t key) {

@@ -34,6 +34,9 @@ inline constexpr PositionMap z300_position_map = {
      0,  0,  0, 14, 19, 24, 29};
 // clang-format on
 
+/// By model number, see core/model.h.
+inline constexpr std::array<const PositionMap*, 2> position_maps = {&z300_position_map, &z320_position_map};
+
 namespace key_positions_proof {
 
 /// Whether each key from 1 to the last has exactly one position.

@@ -3,7 +3,7 @@
 #include <array>
 #include <cstddef>
 
-#include "core/global.h"
+#include "core/model.h"
 #include "keyboard/key_positions.h"
 
 namespace ecr {
@@ -89,13 +89,16 @@ constexpr bool lies_apart(const std::array<KeyCapPlace, Count>& caps, int rows, 
 static_assert(lies_apart(z300_caps, 5, z300_columns));
 static_assert(lies_apart(z320_caps, 6, z320_columns));
 
-constexpr KeyboardForm z300_form = {5, z300_columns, z300_caps, z300_gaps};
-constexpr KeyboardForm z320_form = {6, z320_columns, z320_caps, z320_gaps};
+// By model number.
+constexpr std::array<KeyboardForm, model_rows.size()> forms = {{
+    {5, z300_columns, z300_caps, z300_gaps},
+    {6, z320_columns, z320_caps, z320_gaps},
+}};
 
 }  // namespace
 
 const KeyboardForm& keyboard_form(std::uint8_t model) {
-  return model == Global::model_z320 ? z320_form : z300_form;
+  return forms.at(model_row(model).number);
 }
 
 }  // namespace ecr

@@ -4,7 +4,7 @@
 #include <iterator>
 
 #include "core/codecs.h"
-#include "core/global.h"
+#include "core/model.h"
 
 namespace ecr {
 namespace {
@@ -99,22 +99,20 @@ static_assert(is_sound(pop_rows, pop_record_size));
 static_assert(std::size(chain_rows) == 10 && std::size(pop_rows) == 44);
 
 struct DefaultTick {
-  enum class On { both, z300, z320 };
-
   int list;
   std::string_view control;
-  On model = On::both;
+  Models models = Models::both;
 };
 
 // Credit 1 is not among the defaults of the third list.
 // clang-format off
 constexpr DefaultTick default_ticks[] = {
     {0, "Chk_P1"}, {0, "Chk_P2"}, {0, "ChK_PM1"}, {0, "ChK_PM2"},
-    {1, "Chk_Void"}, {1, "Chk_FullVoid"}, {1, "Chk_Refund", DefaultTick::On::z320},
+    {1, "Chk_Void"}, {1, "Chk_FullVoid"}, {1, "Chk_Refund", Models::z320_only},
     {2, "Chk_Check"}, {2, "Chk_Charge"}, {2, "Chk_Credit2"}, {2, "Chk_Credit3"}, {2, "Chk_Credit4"},
     {2, "Chk_Credit5"},
     {3, "Chk_RA"}, {3, "Chk_PO"},
-    {4, "ChK_TakeOut", DefaultTick::On::z300}, {4, "Chk_FC", DefaultTick::On::z300},
+    {4, "ChK_TakeOut", Models::z300_only}, {4, "Chk_FC", Models::z300_only},
 };
 // clang-format on
 
@@ -125,11 +123,6 @@ constexpr bool all_defaults_are_boxes() {
   return true;
 }
 static_assert(all_defaults_are_boxes());
-
-bool is_on(DefaultTick::On where, std::uint8_t model) {
-  if (where == DefaultTick::On::both) return true;
-  return (where == DefaultTick::On::z320) == (model == Global::model_z320);
-}
 
 }  // namespace
 
@@ -152,7 +145,7 @@ void store_tick(std::span<Flags> record, const OptionBox& box, bool ticked) {
 
 bool is_default_tick(int list, const OptionBox& box, std::uint8_t model) {
   return std::any_of(std::begin(default_ticks), std::end(default_ticks), [&](const DefaultTick& tick) {
-    return tick.list == list && tick.control == box.control && is_on(tick.model, model);
+    return tick.list == list && tick.control == box.control && is_on(tick.models, model);
   });
 }
 

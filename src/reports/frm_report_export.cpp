@@ -98,7 +98,7 @@ void FrmReportExport::load() {
     Read_ExportOption();
     for (const auto& [number, box] : Chk_Report) {
       box->setChecked(ExportOption[number] == 1);
-      if (is_on(report_numbered(number)->models, Global::EcrModel)) continue;
+      if (is_on_chosen_model(report_numbered(number)->models)) continue;
       box->setChecked(false);
       box->setEnabled(false);
     }

@@ -6,6 +6,7 @@
 #include "core/decimal.h"
 #include "core/files.h"
 #include "core/global.h"
+#include "core/model.h"
 #include "core/run_log.h"
 #include "core/shell.h"
 #include "image/prg_mode.h"
@@ -98,17 +99,12 @@ void FrmPrincipale::load() {
     if (port > Decimal{0}) Global::ComPort = static_cast<std::uint8_t>(leading_number(port.text()));
   });
   captions_.lay();
-  switch (Global::EcrModel) {
-    case Global::model_z300:
-      setWindowTitle(windowTitle() + QStringLiteral("   ECRZ300"));
-      frame_.L_Titolo->setText(QStringLiteral("ECRZ300"));
-      break;
-    case Global::model_z320:
-      setWindowTitle(windowTitle() + QStringLiteral("   ECRZ320"));
-      frame_.L_Titolo->setText(QStringLiteral("ECRZ320"));
-      break;
-    default:
-      memo_log(page_bytes(windowTitle()));
+  if (chosen_model().number == Global::EcrModel) {
+    const QString name = screen_text(chosen_model().name);
+    setWindowTitle(windowTitle() + QStringLiteral("   ") + name);
+    frame_.L_Titolo->setText(name);
+  } else {
+    memo_log(page_bytes(windowTitle()));
   }
   Read_Fw_State();
   Write_rs232_fw(Global::ComPort);

@@ -23,7 +23,7 @@ constexpr MenuRow rows[] = {
     {.control = "C_PluProgram", .key = Key::FRM_PROGRAM_MODE_C_PLU_PROGRAM, .built_in = "Program PLUs",
      .opens = "FrmPrgPlu"},
     {.control = "C_PluPageProgram", .key = Key::FRM_PROGRAM_MODE_C_PLUPAGEPROGRAM, .built_in = "Program PLU Pages",
-     .opens = "FrmPluPageProgram", .shown = MenuRow::Shown::not_on_z300},
+     .opens = "FrmPluPageProgram", .models = Models::z320_only},
     {.control = "C_PercentageProgram", .key = Key::FRM_PROGRAM_MODE_C_PERCENTAGE_PROGRAM,
      .built_in = "Program % Key", .opens = "FrmPercentageMenu"},
     {.control = "C_PO_RA_M_P_Key_Program", .key = Key::FRM_PROGRAM_MODE_C_PO_RA_M_P_KEY_PROGRAM,

@@ -15,7 +15,7 @@ constexpr MenuRow rows[] = {
      .opens = "FrmReportSetup"},
     {.control = "C_EJ_Setup", .key = Key::FRM_SETTING_C_EJ_SETUP, .built_in = "EJ Setup", .opens = "FrmEJSetup"},
     {.control = "C_Hospitality_Setup", .key = Key::FRM_SETTING_C_HOSPITALITY, .built_in = "Hospitality Setup",
-     .opens = "FrmHospitalitySetup", .shown = MenuRow::Shown::not_on_z300},
+     .opens = "FrmHospitalitySetup", .models = Models::z320_only},
     {.control = "C_Clerk_Setup", .key = Key::FRM_SETTING_C_CLERK_SETUP, .built_in = "Clerk Setup",
      .opens = "FrmClerkMenuSetup"},
 };

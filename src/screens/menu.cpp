@@ -12,15 +12,8 @@ namespace ecr {
 namespace {
 
 bool is_shown(const MenuRow& row) {
-  switch (row.shown) {
-    case MenuRow::Shown::always:
-      return true;
-    case MenuRow::Shown::not_on_z300:
-      return Global::EcrModel != Global::model_z300;
-    case MenuRow::Shown::debug_only:
-      return Global::DebugMode;
-  }
-  return true;
+  if (row.shown == MenuRow::Shown::debug_only && !Global::DebugMode) return false;
+  return is_on_chosen_model(row.models);
 }
 
 }  // namespace

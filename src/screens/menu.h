@@ -8,6 +8,7 @@
 
 #include <QGridLayout>
 
+#include "core/model.h"
 #include "widgets/controls.h"
 #include "widgets/screen.h"
 #include "widgets/screen_frame.h"
@@ -15,13 +16,14 @@
 namespace ecr {
 
 struct MenuRow {
-  enum class Shown { always, not_on_z300, debug_only };
+  enum class Shown { always, debug_only };
 
   const char* control;
   std::optional<Key> key = std::nullopt;
   std::string_view built_in;
   const char* opens = "";  ///< name of the screen; empty for a button with a routine of its own
   Shown shown = Shown::always;
+  Models models = Models::both;
 };
 
 /// A screen whose body is a grid of such buttons, with a way back below. A button whose screen, or whose routine, is

@@ -6,7 +6,7 @@
 #include <QHBoxLayout>
 
 #include "core/codecs.h"
-#include "core/global.h"
+#include "core/model.h"
 #include "core/register_text.h"
 #include "core/run_log.h"
 #include "core/text.h"
@@ -76,7 +76,7 @@ constexpr OptionRow rows[] = {
      .caption = "Extra Invoice",
      .choices = permissions,
      .place = bit_at(rights, 6),
-     .models = OptionModels::z320_only},
+     .models = Models::z320_only},
     {.control = "Cmb_Mode",
      .label = "L_Mode",
      .key = Key::FRM_CLERK_SYSTEM_PROGRAM_L_MODE,
@@ -106,10 +106,6 @@ enum Column {
 constexpr std::pair<Column, std::size_t> right_columns[] = {{void_sale, 0},     {refund, 1},   {discount, 2},
                                                             {coupon, 5},        {paid_out, 3}, {negative, 4},
                                                             {extra_invoice, 6}, {mode, 7}};
-
-bool has_extra_invoice() {
-  return Global::EcrModel != Global::model_z300;
-}
 
 std::size_t place_of(int clerk) {
   return offsetof(PrgModeImage, Clerk) + sizeof(ClerkRecord) * static_cast<std::size_t>(clerk - 1);
@@ -213,9 +209,9 @@ void FrmClerkSystemProgram::carica_messaggi() {
                       caption_text(Key::FRM_CLERK_SYSTEM_COL_REFUND_MSG, "Refund"),
                       caption_text(Key::FRM_CLERK_SYSTEM_COL_DISCOUNT_MSG, "Discount"),
                       caption_text(Key::FRM_CLERK_SYSTEM_COL_COUPON_MSG, "Coupon"),
-                      has_extra_invoice() ? QStringLiteral("E.Invoice") : QString{}, QStringLiteral("Paid Out"),
-                      QStringLiteral("N. Dep&PLU"), QStringLiteral("Mode")});
-  Fg_Clerk->setColumnHidden(extra_invoice, !has_extra_invoice());
+                      chosen_model().has_extra_invoice ? QStringLiteral("E.Invoice") : QString{},
+                      QStringLiteral("Paid Out"), QStringLiteral("N. Dep&PLU"), QStringLiteral("Mode")});
+  Fg_Clerk->setColumnHidden(extra_invoice, !chosen_model().has_extra_invoice);
 }
 
 void FrmClerkSystemProgram::Carica_Griglia() {

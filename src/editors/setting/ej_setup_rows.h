@@ -54,14 +54,14 @@ inline constexpr OptionRow ej_setup_rows[] = {
      .caption = "New Balance Receipt to EJ",
      .choices = input_no_input,
      .place = bit_at(offsetof(PrgModeImage, Set13_EJ), 3),
-     .models = OptionModels::z320_only},
+     .models = Models::z320_only},
     {.control = "Cmb_InvoiceReceipttoEJ",
      .label = "L_InvoiceReceipttoEJ",
      .key = Key::FRM_EJ_SETUP_L_INVOICE_RECEIPT_TO_EJ,
      .caption = "Invoice Receipt to EJ",
      .choices = input_no_input,
      .place = bit_at(offsetof(PrgModeImage, Set13_EJ), 4),
-     .models = OptionModels::z320_only,
+     .models = Models::z320_only,
      .saved_from = "Cmb_NewBalanceReceipttoEJ"},
     {.control = "Cmb_Review_ProformaReceiptToEJ",
      .label = "L_Review_ProformaReceiptToEJ",
@@ -69,7 +69,7 @@ inline constexpr OptionRow ej_setup_rows[] = {
      .caption = "Review/Proforma Receipt To EJ",
      .choices = input_no_input,
      .place = bit_at(offsetof(PrgModeImage, Set13_EJ), 5),
-     .models = OptionModels::z320_only},
+     .models = Models::z320_only},
 };
 static_assert(sound(ej_setup_rows, prg_mode_size));
 

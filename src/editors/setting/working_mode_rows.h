@@ -58,14 +58,14 @@ inline constexpr OptionRow working_mode_rows[] = {
      .caption = "PLU Page shift selection",
      .choices = shifts,
      .place = byte_at(offsetof(PrgModeImage, Set02_Working)),
-     .models = OptionModels::z320_only},
+     .models = Models::z320_only},
     {.control = "Cmb_Price1_2ShiftSel",
      .label = "L_Price1_2ShiftSel",
      .key = Key::FRM_WORKING_MODE_L_PRICE_1_2_SHIFT_SEL,
      .caption = "Price 1/2 shift selection",
      .choices = shifts,
      .place = byte_at(offsetof(PrgModeImage, Set01_Working)),
-     .models = OptionModels::z320_only},
+     .models = Models::z320_only},
 };
 static_assert(sound(working_mode_rows, prg_mode_size));
 
