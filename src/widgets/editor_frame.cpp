@@ -11,6 +11,7 @@
 #include "widgets/glyphs.h"
 #include "widgets/look.h"
 #include "widgets/screen_text.h"
+#include "widgets/session_mark.h"
 
 namespace ecr {
 
@@ -67,7 +68,7 @@ void EditorFrame::load(const std::function<void()>& routine) {
   C_Salva->setIcon(glyph(Glyph::to_file, C_Salva->palette().color(QPalette::HighlightedText)));
   C_Invia_Ecr->setIcon(glyph(Glyph::to_register, text_plain()));
   if (saves_to_file_) C_Salva->setToolTip(QStringLiteral("→ ") + screen_text(Global::PathDati) + file_);
-  C_Invia_Ecr->setToolTip(file_ + QStringLiteral(" → ") + top.L_Session->text().section(QStringLiteral("   "), 0, 1));
+  C_Invia_Ecr->setToolTip(file_ + QStringLiteral(" → ") + port_and_model());
   captions.lay();
   guarded(load_prefix_, routine);
 }

@@ -3,15 +3,23 @@
 #include <QPainter>
 
 #include "core/global.h"
+#include "core/model.h"
 #include "widgets/look.h"
+#include "widgets/screen_text.h"
 
 namespace ecr {
 namespace {
 
 constexpr int dot = 8;
 constexpr int gap = 7;
+constexpr QLatin1String between{"   "};
 
 }  // namespace
+
+QString port_and_model() {
+  const QString port = Global::ComPort > 0 ? QStringLiteral("COM %1").arg(Global::ComPort) : QStringLiteral("COM –");
+  return port + between + screen_text(chosen_model().name);
+}
 
 SessionMark::SessionMark(QWidget* parent) : QLabel{parent} {
   setObjectName(QStringLiteral("L_Session"));
@@ -21,10 +29,7 @@ SessionMark::SessionMark(QWidget* parent) : QLabel{parent} {
 
 void SessionMark::show_session(const QString& file) {
   linked_ = Global::ComPort > 0;
-  QString text = linked_ ? QStringLiteral("COM %1").arg(Global::ComPort) : QStringLiteral("COM –");
-  text += Global::EcrModel == Global::model_z320 ? QStringLiteral("   ECRZ320") : QStringLiteral("   ECRZ300");
-  if (!file.isEmpty()) text += QStringLiteral("   ") + file;
-  setText(text);
+  setText(file.isEmpty() ? port_and_model() : port_and_model() + between + file);
 }
 
 void SessionMark::paintEvent(QPaintEvent* event) {

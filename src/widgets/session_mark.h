@@ -6,6 +6,9 @@
 
 namespace ecr {
 
+/// The port of the link and the model, as the first two pieces of the line: "COM 4   ECRZ320".
+[[nodiscard]] QString port_and_model();
+
 class SessionMark : public QLabel {
   Q_OBJECT
 
