@@ -9,6 +9,7 @@
 #include "core/code_page.h"
 #include "core/global.h"
 #include "core/text.h"
+#include "fields/caption_meanings.h"
 #include "image/prg_mode.h"
 #include "support/installation.h"
 

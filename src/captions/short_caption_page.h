@@ -10,7 +10,7 @@
 
 #include "captions/caption_line.h"
 #include "captions/paper.h"
-#include "captions/text_files.h"
+#include "fields/caption_meanings.h"
 #include "widgets/captions.h"
 #include "widgets/controls.h"
 #include "widgets/record_grid.h"

@@ -137,33 +137,4 @@ bool Export_Caption() {
   });
 }
 
-CaptionDescriptions descriptions_in(std::string_view bytes) {
-  CaptionDescriptions descriptions;
-  std::size_t number = 0;
-  for (const std::string_view line : lines_of(bytes)) {
-    if (number < short_captions) {
-      descriptions.captions[number] = line;
-    } else if (number < short_captions + described_others) {
-      descriptions.others.emplace_back(line);
-    } else {
-      memo_log("Number of caption description to High");
-      break;
-    }
-    ++number;
-  }
-  return descriptions;
-}
-
-bool Read_DescCaption(CaptionDescriptions& descriptions) {
-  descriptions = {};
-  const std::string path = Global::PathSetup + "DescCaption.ini";
-  if (!file_exists(path)) return false;
-  return guarded("Read_DescCaption: ", [&] {
-    std::string bytes;
-    const Fault fault = read_file(path, bytes, longest_file);
-    if (fault.stands()) throw FaultError{fault};
-    descriptions = descriptions_in(bytes);
-  });
-}
-
 }  // namespace ecr

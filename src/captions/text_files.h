@@ -1,17 +1,10 @@
 #pragma once
-// The three text files that carry captions in and out: the custom import, the export caption.txt, and DescCaption.ini
-// with the meaning of each caption. All hold bytes of the code page; docs/formats/caption-files.md describes them.
+// The text files that carry captions in and out: the custom import and the export caption.txt. Both hold bytes of the
+// code page; docs/formats/caption-files.md describes them. What a caption means: fields/caption_meanings.h.
 
-#include <array>
-#include <cstddef>
-#include <string>
 #include <string_view>
-#include <vector>
 
 namespace ecr {
-
-inline constexpr std::size_t short_captions = 78;
-inline constexpr std::size_t described_others = 18;  ///< of the 23 other lines, the first ones
 
 /// Takes the tagged lines of a custom import file into the working image: receipt headers, receipt footers and
 /// departments. What is wrong with a line is not told: an absent or unreadable field becomes empty or zero, and a line
@@ -28,17 +21,5 @@ bool Import_Caption(std::string_view path);
 /// characters of the code page. The working image takes each text in that form, so that a second export converts it
 /// once more. Answers whether the file was written; if not, the image stays as it was and the log says why.
 bool Export_Caption();
-
-/// What DescCaption.ini says.
-struct CaptionDescriptions {
-  std::array<std::string, short_captions> captions;  ///< by caption; empty where the file has no such line
-  std::vector<std::string> others;                   ///< of the other lines from the first on; those that the file has
-};
-
-/// Takes the lines of such a file. A line too many is logged and ends the reading.
-[[nodiscard]] CaptionDescriptions descriptions_in(std::string_view bytes);
-
-/// Reads Setup\DescCaption.ini. Answers whether the file is there and can be read; without it nothing is described.
-bool Read_DescCaption(CaptionDescriptions& descriptions);
 
 }  // namespace ecr

@@ -1,6 +1,6 @@
 #include "keyboard/free_layout.h"
 
-#include "keyboard/key_codes.h"
+#include "fields/key_codes.h"
 
 namespace ecr {
 

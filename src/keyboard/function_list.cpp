@@ -6,7 +6,7 @@
 #include <QPainter>
 
 #include "core/codecs.h"
-#include "keyboard/key_codes.h"
+#include "fields/key_codes.h"
 #include "keyboard/key_drag.h"
 #include "keyboard/key_face.h"
 #include "widgets/screen_text.h"

@@ -7,7 +7,7 @@
 #include <QPainter>
 #include <QToolTip>
 
-#include "keyboard/key_codes.h"
+#include "fields/key_codes.h"
 #include "keyboard/key_drag.h"
 #include "widgets/look.h"
 #include "widgets/screen_text.h"

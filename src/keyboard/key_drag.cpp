@@ -7,7 +7,7 @@
 #include <QPixmap>
 #include <QWidget>
 
-#include "keyboard/key_codes.h"
+#include "fields/key_codes.h"
 #include "keyboard/key_face.h"
 #include "widgets/screen_text.h"
 

@@ -2,14 +2,14 @@
 
 #include <algorithm>
 
-#include "core/model.h"
+#include "core/global.h"
 
 namespace ecr {
 
 PositionMap KeyOfPosition{};
 
 void assegna_Code_key() {
-  KeyOfPosition = *position_maps.at(chosen_model().number);
+  KeyOfPosition = position_map(Global::EcrModel);
 }
 
 std::int16_t n_tasto_to_key_position(std::uint8_t key) {

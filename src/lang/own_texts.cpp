@@ -1,25 +1,23 @@
 #include "lang/own_texts.h"
 
+#include <algorithm>
 #include <array>
+#include <iterator>
 #include <tuple>
 
 #include "core/code_page.h"
 #include "image/side_files.h"
 #include "lang/language.h"
+#include "lang/own_text_row.h"
+#include "lang/own_texts_of_fields.h"
 
 namespace ecr {
 namespace {
 
 constexpr std::string_view place_of_first = "%1";
 
-struct Row {
-  OwnText text;
-  /// By language number: English, Spanish, French, German, Dutch, Portuguese, Danish, Norwegian.
-  std::array<std::string_view, 8> in;
-};
-
 // clang-format off
-constexpr std::array<Row, own_text_count> rows = {{
+constexpr OwnTextRow own_texts_of_screens[] = {
     {OwnText::one_of_several,
      {"%1 of %2", "%1 de %2", "%1 sur %2", "%1 von %2", "%1 van %2", "%1 de %2", "%1 af %2", "%1 av %2"}},
     {OwnText::time_left,
@@ -295,8 +293,17 @@ constexpr std::array<Row, own_text_count> rows = {{
       "Un fichier de journal de %1 enregistrements.", "Eine Journaldatei mit %1 Sätzen.",
       "Een journaalbestand met %1 records.", "Um ficheiro do diário com %1 registos.", "En journalfil med %1 poster.",
       "En journalfil med %1 poster."}},
-}};
+};
 // clang-format on
+
+/// All tables as one, in the order of the enum.
+constexpr auto rows = [] {
+  std::array<OwnTextRow, own_text_count> all{};
+  auto* end = std::copy(std::begin(own_texts_of_screens), std::end(own_texts_of_screens), all.begin());
+  end = std::copy(std::begin(own_texts_of_fields), std::end(own_texts_of_fields), end);
+  if (end != all.end()) throw "a row for each text";
+  return all;
+}();
 
 constexpr bool is_complete() {
   for (std::size_t i = 0; i < rows.size(); ++i) {
@@ -308,11 +315,11 @@ constexpr bool is_complete() {
   return true;
 }
 static_assert(is_complete(), "a row for each text, in their order, and in each row no language without words");
-static_assert(std::tuple_size_v<decltype(Row::in)> == std::tuple_size_v<decltype(languages)>);
+static_assert(std::tuple_size_v<decltype(OwnTextRow::in)> == std::tuple_size_v<decltype(languages)>);
 
 /// What the table has is plain UTF-8 of up to two bytes a letter.
 constexpr bool is_narrow() {
-  for (const Row& row : rows) {
+  for (const OwnTextRow& row : rows) {
     for (const std::string_view text : row.in) {
       for (const char byte : text) {
         if (static_cast<unsigned char>(byte) >= 0xE0) return false;

@@ -1,6 +1,6 @@
 #pragma once
 // The texts that are built in beside the catalogue, in each of the program's languages: the report viewer, the hints of
-// some screens, the words of the wait card. No file changes them.
+// some screens, the words of the wait card, the book of fields. No file changes them.
 //
 // %1, %2 and %3 stand for what goes into a text; each language has those that English has.
 
@@ -96,9 +96,37 @@ enum class OwnText : std::uint8_t {
   logo_too_many_colours,
   logo_blank_in_path,
   journal_records,
+  // The book of fields: what no control shows
+  field_rate,
+  field_text,
+  field_function,
+  field_saved_here,
+  field_changed,
+  field_price_above_zero,
+  field_to_be_sent,
+  field_carried,
+  field_key_number,
+  field_position_number,
+  // Why a value is not taken
+  refused_no_number,  ///< %1: what was written; %2, %3: the limits
+  refused_too_low,
+  refused_too_high,
+  refused_decimals,  ///< %2: how many there can be
+  refused_too_long,  ///< %1, %2: how many characters it has, and can have
+  refused_character,
+  refused_choice,  ///< %2: the choices
+  refused_bytes,   ///< %2: how many
+  refused_bits,
+  refused_model,
+  refused_field,
+  refused_reference,
+  refused_record,  ///< %1: the field; %2, %3: the first and the last record
+  refused_alone,
+  refused_item,
+  refused_items,  ///< %1: the code; %2: how many have it
 };
 
-inline constexpr std::size_t own_text_count = static_cast<std::size_t>(OwnText::journal_records) + 1;
+inline constexpr std::size_t own_text_count = static_cast<std::size_t>(OwnText::refused_items) + 1;
 
 /// The text in the chosen language, UTF-8. A language number outside the table reads English.
 [[nodiscard]] std::string_view own_text(OwnText text);

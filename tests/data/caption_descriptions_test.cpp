@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
-#include "captions/text_files.h"
 #include "core/register_text.h"
 #include "core/text.h"
+#include "fields/caption_meanings.h"
 #include "image/prg_mode.h"
 
 namespace ecr::test {

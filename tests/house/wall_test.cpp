@@ -115,17 +115,18 @@ Names may_see(const std::string& room, bool is_model) {
       {"image", {"core"}},
       {"link", {"core", "image"}},
       {"lang", {"core", "image"}},
+      {"fields", {"core", "image", "lang"}},
       {"platform", {"core"}},
       {"emulator", {"core", "image", "platform"}},
       {"robot", {}},
-      {"widgets", {"core", "image", "link", "lang", "captions", "keyboard", "reports", "logo"}},
-      {"screens", {"core", "image", "link", "lang", "captions", "keyboard", "reports", "logo", "widgets"}},
-      {"editors", {"core", "image", "link", "lang", "captions", "keyboard", "reports", "logo", "widgets"}},
+      {"widgets", {"core", "image", "link", "lang", "fields", "captions", "keyboard", "reports", "logo"}},
+      {"screens", {"core", "image", "link", "lang", "fields", "captions", "keyboard", "reports", "logo", "widgets"}},
+      {"editors", {"core", "image", "link", "lang", "fields", "captions", "keyboard", "reports", "logo", "widgets"}},
       {"app",
-       {"core", "image", "link", "lang", "platform", "captions", "keyboard", "reports", "logo", "widgets", "screens",
-        "editors", "robot"}}};
+       {"core", "image", "link", "lang", "fields", "platform", "captions", "keyboard", "reports", "logo", "widgets",
+        "screens", "editors", "robot"}}};
   if (models.count(room) == 1) {
-    Names rule = {"core", "image", "link", "lang"};
+    Names rule = {"core", "image", "link", "lang", "fields"};
     if (!is_model) rule.insert("widgets");
     return rule;
   }
@@ -143,7 +144,7 @@ bool is_allowed(const std::string& room, const std::string& header, bool is_mode
 TEST(Wall, TheBuildNamesTheModelRooms) {
   Names rooms;
   for (const fs::path& file : model_files()) rooms.insert(room_of(file));
-  for (const char* room : {"core", "image", "link", "lang", "platform", "emulator"})
+  for (const char* room : {"core", "image", "link", "lang", "fields", "platform", "emulator"})
     EXPECT_EQ(rooms.count(room), 1U) << room;
   EXPECT_GT(model_files().size(), 60U);
 }
@@ -220,6 +221,11 @@ TEST(WallRules, LetArrowsRunDownwardsOnly) {
   EXPECT_TRUE(is_allowed("link", "link/ports.h", true));
   EXPECT_FALSE(is_allowed("image", "link/ports.h", true));
   EXPECT_FALSE(is_allowed("link", "lang/language.h", true));
+  EXPECT_TRUE(is_allowed("fields", "lang/own_texts.h", true));
+  EXPECT_TRUE(is_allowed("keyboard", "fields/book.h", true));
+  EXPECT_TRUE(is_allowed("editors", "fields/book.h", false));
+  EXPECT_FALSE(is_allowed("fields", "keyboard/free_layout.h", true));
+  EXPECT_FALSE(is_allowed("fields", "link/transfer.h", true));
   EXPECT_FALSE(is_allowed("core", "widgets/field.h", true));
   EXPECT_FALSE(is_allowed("widgets", "screens/menu.h", false));
   EXPECT_FALSE(is_allowed("editors", "screens/menu.h", false));

@@ -6,7 +6,7 @@
 #include <numeric>
 
 #include "core/global.h"
-#include "keyboard/key_codes.h"
+#include "fields/key_codes.h"
 #include "support/random.h"
 
 namespace ecr::test {

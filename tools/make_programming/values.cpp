@@ -11,7 +11,7 @@
 #include "core/decimal.h"
 #include "core/register_text.h"
 #include "core/text.h"
-#include "keyboard/key_codes.h"
+#include "fields/key_codes.h"
 #include "make_programming/names.h"
 
 namespace ecr {

@@ -8,7 +8,7 @@
 #include <QTest>
 #include <QWindow>
 
-#include "keyboard/key_codes.h"
+#include "fields/key_codes.h"
 #include "keyboard/key_drag.h"
 #include "keyboard/screen/advanced_setting_keys.h"
 #include "widgets/look.h"

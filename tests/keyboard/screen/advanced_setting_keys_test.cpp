@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "image/side_files.h"
-#include "keyboard/key_codes.h"
+#include "fields/key_codes.h"
 #include "widgets/look.h"
 
 namespace ecr::test {

@@ -10,7 +10,7 @@
 #include <QImage>
 #include <QPainter>
 
-#include "keyboard/key_codes.h"
+#include "fields/key_codes.h"
 #include "support_qt/printing.h"
 #include "widgets/look.h"
 

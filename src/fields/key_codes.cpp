@@ -1,4 +1,4 @@
-#include "keyboard/key_codes.h"
+#include "fields/key_codes.h"
 
 #include <array>
 #include <cstddef>
@@ -40,8 +40,12 @@ struct Family {
   int before_first;
   int members;
 };
-constexpr Family families[] = {{"CHAIN FUNC ", 51, 5}, {"POP LIST ", 56, 5}, {"PLU PAGE ", 73, 3},
-                               {"PLU LIST ", 76, 5},   {"DEPT ", 81, 20},    {"PLU ", 101, 50}};
+constexpr Family families[] = {{"CHAIN FUNC ", first_chain_code - 1, 5},
+                               {"POP LIST ", first_pop_list_code - 1, 5},
+                               {"PLU PAGE ", 73, 3},
+                               {"PLU LIST ", 76, 5},
+                               {"DEPT ", 81, 20},
+                               {"PLU ", 101, 50}};
 
 using Names = std::array<Name, 256>;
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "captions/text_files.h"
+#include "fields/caption_meanings.h"
 #include "support/installation.h"
 #include "support/random.h"
 

@@ -1,4 +1,4 @@
-#include "keyboard/key_codes.h"
+#include "fields/key_codes.h"
 
 #include <gtest/gtest.h>
 #include <map>

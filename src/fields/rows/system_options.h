@@ -1,0 +1,102 @@
+#pragma once
+// How amounts are written and rounded, what the two serial ports are for, and the register's counters.
+
+#include "fields/rows/choices.h"
+#include "fields/rows/places.h"
+
+namespace ecr::fields {
+
+inline constexpr Choice decimal_positions[] = {{.digit = 0,
+                                                .token = "0",
+                                                .literal = "0. (ex x)",
+                                                .text = Key::FRM_SYSTEM_OPTION_DECIMAL_POINT_POSITION_SETTING_0_MSG},
+                                               {.digit = 1,
+                                                .token = "1",
+                                                .literal = "1. (ex x.x)",
+                                                .text = Key::FRM_SYSTEM_OPTION_DECIMAL_POINT_POSITION_SETTING_1_MSG},
+                                               {.digit = 2,
+                                                .token = "2",
+                                                .literal = "2. (ex x.xx)",
+                                                .text = Key::FRM_SYSTEM_OPTION_DECIMAL_POINT_POSITION_SETTING_2_MSG},
+                                               {.digit = 3,
+                                                .token = "3",
+                                                .literal = "3. (ex x.xxx)",
+                                                .text = Key::FRM_SYSTEM_OPTION_DECIMAL_POINT_POSITION_SETTING_3_MSG}};
+inline constexpr Choice fraction_roundings[] = {{.digit = 0,
+                                                 .token = "down",
+                                                 .literal = "0. ROUND DOWN",
+                                                 .text = Key::FRM_SYSTEM_OPTION_FRACTION_ROUNDING_SETTING_0_MSG},
+                                                {.digit = 1,
+                                                 .token = "off",
+                                                 .literal = "1. ROUND OFF",
+                                                 .text = Key::FRM_SYSTEM_OPTION_FRACTION_ROUNDING_SETTING_1_MSG},
+                                                {.digit = 2,
+                                                 .token = "up",
+                                                 .literal = "2. ROUND UP",
+                                                 .text = Key::FRM_SYSTEM_OPTION_FRACTION_ROUNDING_SETTING_2_MSG}};
+// The numbers in the keys' names count the uses, not the ports.
+inline constexpr Choice port_uses[] = {
+    {.digit = 1, .token = "pc", .literal = "1. PC", .text = Key::FRM_SYSTEM_OPTION_COM_PORT_1_MSG},
+    {.digit = 2, .token = "barcode-reader", .literal = "2. BCR", .text = Key::FRM_SYSTEM_OPTION_COM_PORT_2_MSG},
+    {.digit = 3, .token = "card-terminal", .literal = "3. EFT", .text = Key::FRM_SYSTEM_OPTION_COM_PORT_3_MSG}};
+
+/// The four lists, then the counters in the order in which they are loaded and saved.
+inline constexpr auto system_option_fields = in_section(
+    Section::system_options, {{.id = "system.decimals",
+                               .name = {Key::FRM_SYSTEM_OPTION_L_DECIMAL_POSITION, "Decimal Position"},
+                               .place = image_place("SysOpt0"),
+                               .choices = decimal_positions,
+                               .edited = {"Cmb_DecimalPosition", "L_DecimalPosition"}},
+                              {.id = "system.rounding",
+                               .name = {Key::FRM_SYSTEM_OPTION_L_FRACTION_ROUND, "Fraction Rounding "},
+                               .place = read_as(Stored::packed, image_place("SysOpt1")),
+                               .choices = fraction_roundings,
+                               .edited = {"Cmb_FractionRound", "L_FractionRound"}},
+                              {.id = "system.port1",
+                               .name = {Key::FRM_SYSTEM_OPTION_L_COM_PORT_1, "Com port 1"},
+                               .place = image_element("SysOpt2", 1),
+                               .choices = port_uses,
+                               .edited = {"Cmb_ComPort1", "L_ComPort1"}},
+                              {.id = "system.port2",
+                               .name = {Key::FRM_SYSTEM_OPTION_L_COM_PORT_2, "Com port 2"},
+                               .place = image_element("SysOpt2", 2),
+                               .choices = port_uses,
+                               .edited = {"Cmb_ComPort2", "L_ComPort2"}},
+                              {.id = "counter.consecutive",
+                               .name = {Key::FRM_SYSTEM_OPTION_L_CONSECUTIVE_RECEIPT, "Consecutive Receipt #"},
+                               .place = image_place("SysOpt3"),
+                               .coding = Coding::number,
+                               .limits = {.highest = 9'999'999, .digits = 7},
+                               .owner = Owner::register_itself,
+                               .edited = {"E_ConsecutiveReceipt", "L_ConsecutiveReceipt"}},
+                              {.id = "counter.invoice",
+                               .name = {Key::FRM_SYSTEM_OPTION_L_INVOICE_NUMBER, "Invoice Number"},
+                               .place = image_place("SysOpt4"),
+                               .coding = Coding::number,
+                               .limits = {.highest = 9'999'999, .digits = 7},
+                               .edited = {"E_InvoiceNumber", "L_InvoiceNumber"}},
+                              {.id = "counter.z1",
+                               .name = {Key::FRM_SYSTEM_OPTION_L_Z1_COUNTER_SETTING, "Z1 Counter Setting"},
+                               .place = image_place("SysOpt5"),
+                               .coding = Coding::number,
+                               .limits = {.highest = 9'999, .digits = 4},
+                               .owner = Owner::register_itself,
+                               .edited = {"E_Z1CounterSetting", "L_Z1CounterSetting"}},
+                              {.id = "counter.z2",
+                               .name = {Key::FRM_SYSTEM_OPTION_L_Z2_COUNTER_SETTING, "Z2 Counter Setting"},
+                               .place = image_place("SysOpt6"),
+                               .coding = Coding::number,
+                               .limits = {.highest = 9'999, .digits = 4},
+                               .owner = Owner::register_itself,
+                               .edited = {"E_Z2CounterSetting", "L_Z2CounterSetting"},
+                               .oddity = Oddity::empty_is_a_fault},
+                              {.id = "counter.grand-total",
+                               .name = {Key::FRM_SYSTEM_OPTION_L_GT_COUNTER_SETTING, "GT Counter Setting"},
+                               .place = image_place("SysOpt7"),
+                               .coding = Coding::number,
+                               .limits = {.highest = 9'999'999'999'999'999, .digits = 16},
+                               .owner = Owner::register_itself,
+                               .edited = {"E_GTCounterSetting", "L_GTCounterSetting"},
+                               .oddity = Oddity::empty_is_a_fault}});
+
+}  // namespace ecr::fields
