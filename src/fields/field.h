@@ -198,7 +198,7 @@ struct Field {
   Coding coding = Coding::choice;
   std::span<const Choice> choices = {};
   Limits limits = {};
-  Models models = Models::both;
+  Models models = Models::both;  ///< a Z300 keeps the value of a Z320 and does nothing with it; its screens hide it
   Owner owner = Owner::shop;
   Edited edited = {};
   OptionLoad load = OptionLoad::plain;
