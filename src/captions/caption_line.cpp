@@ -10,16 +10,10 @@
 #include "captions/double_width.h"
 #include "core/run_log.h"
 #include "widgets/screen_text.h"
+#include "widgets/typing.h"
 
 namespace ecr {
 namespace {
-
-/// Whether the key puts a character into a field, in the toolkit's own terms.
-bool types_a_character(const QKeyEvent& event) {
-  const Qt::KeyboardModifiers held = event.modifiers() & ~Qt::KeypadModifier;
-  const bool is_command = held == Qt::ControlModifier || held == (Qt::ControlModifier | Qt::ShiftModifier);
-  return !is_command && !event.text().isEmpty() && event.text().front().isPrint();
-}
 
 bool is_backspace(const QKeyEvent& event) {
   return event.key() == Qt::Key_Backspace && (event.modifiers() & ~Qt::ShiftModifier) == Qt::NoModifier;
@@ -78,7 +72,7 @@ void CaptionLine::keyPressEvent(QKeyEvent* event) {
     } else if (is_backspace(*event)) {
       if (!hasSelectedText()) cursorBackward(true);
       select_mark_too();
-    } else if (types_a_character(*event) && prints_double()) {
+    } else if (!typed_text(*event).isEmpty() && prints_double()) {
       put_mark();
     }
   });

@@ -11,22 +11,15 @@
 #include "core/codecs.h"
 #include "core/decimal.h"
 #include "widgets/screen_text.h"
+#include "widgets/typing.h"
 
 namespace ecr {
 namespace {
 
-bool types_a_character(const QKeyEvent& event) {
-  const bool is_command = (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
-  return !is_command && !event.text().isEmpty() && event.text().front().isPrint();
-}
-
-bool is_digit_key(const QKeyEvent& event) {
-  return event.text().size() == 1 && event.text().front() >= u'0' && event.text().front() <= u'9';
-}
-
 /// Whether a key can have changed the number in the list's own field.
 bool edits_the_number(const QKeyEvent& event) {
-  return is_digit_key(event) || event.key() == Qt::Key_Backspace || event.key() == Qt::Key_Delete ||
+  const QString typed = typed_text(event);
+  return (!typed.isEmpty() && all_digits(typed)) || event.key() == Qt::Key_Backspace || event.key() == Qt::Key_Delete ||
          event.matches(QKeySequence::Paste) || event.matches(QKeySequence::Cut);
 }
 
@@ -108,11 +101,19 @@ int ChoiceList::whole_number() const {
 }
 
 void ChoiceList::keyPressEvent(QKeyEvent* event) {
-  if (typing_ == Typing::dropped && types_a_character(*event)) {
+  if (typing_ == Typing::dropped && !searched_text(*event).isEmpty()) {
     event->accept();
     return;
   }
   QComboBox::keyPressEvent(event);
+}
+
+void ChoiceList::inputMethodEvent(QInputMethodEvent* event) {
+  if (typing_ == Typing::dropped) {
+    event->accept();
+    return;
+  }
+  QComboBox::inputMethodEvent(event);
 }
 
 void ChoiceList::showPopup() {
@@ -122,9 +123,12 @@ void ChoiceList::showPopup() {
 }
 
 bool ChoiceList::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::KeyPress && typing_ == Typing::dropped &&
-      types_a_character(static_cast<const QKeyEvent&>(*event))) {
-    return true;
+  if (typing_ == Typing::dropped) {
+    if (event->type() == QEvent::InputMethod) return true;
+    // The open list, other than the closed one, does not look for anything while Ctrl is held.
+    if (event->type() == QEvent::KeyPress && !typed_text(static_cast<const QKeyEvent&>(*event)).isEmpty()) {
+      return true;
+    }
   }
   return QComboBox::eventFilter(watched, event);
 }
@@ -162,7 +166,7 @@ int NumberList::number() const {
 
 // The list itself has the focus and hands keys on to its field.
 void NumberList::keyPressEvent(QKeyEvent* event) {
-  if (types_a_character(*event) && !is_digit_key(*event)) {
+  if (!all_digits(typed_text(*event))) {
     event->accept();
     return;
   }
@@ -172,6 +176,14 @@ void NumberList::keyPressEvent(QKeyEvent* event) {
 void NumberList::keyReleaseEvent(QKeyEvent* event) {
   QComboBox::keyReleaseEvent(event);
   if (edits_the_number(*event)) typed();
+}
+
+void NumberList::inputMethodEvent(QInputMethodEvent* event) {
+  const auto digits = digits_alone(*event);
+  QComboBox::inputMethodEvent(digits.get());
+  event->setAccepted(digits->isAccepted());
+  // There may be no key to be released.
+  if (changes_text(*digits)) typed();
 }
 
 void NumberList::focusInEvent(QFocusEvent* event) {

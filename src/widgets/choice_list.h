@@ -11,8 +11,8 @@
 
 namespace ecr {
 
-/// A list that changes by the pointer and the arrow keys alone; typed characters do nothing. It can show a text that is
-/// none of its entries.
+/// A list that changes by the pointer and the arrow keys alone; typed or composed characters do nothing. It can show a
+/// text that is none of its entries.
 class ChoiceList : public QComboBox {
   Q_OBJECT
 
@@ -48,6 +48,7 @@ class ChoiceList : public QComboBox {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -77,6 +78,7 @@ class NumberList : public QComboBox {
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
 
  private:

@@ -15,6 +15,7 @@
 #include "core/shell.h"
 #include "widgets/screen.h"
 #include "widgets/screen_text.h"
+#include "widgets/typing.h"
 
 namespace ecr {
 namespace {
@@ -28,10 +29,6 @@ bool is_move_between_controls(const QFocusEvent& event) {
     default:
       return true;
   }
-}
-
-bool all_digits(const QString& text) {
-  return std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
 }
 
 }  // namespace
@@ -103,9 +100,10 @@ void Field::keyPressEvent(QKeyEvent* event) {
       return;
     }
   } else if (!event->text().isEmpty() && event->key() != Qt::Key_Tab && event->key() != Qt::Key_Backtab) {
+    const QString typed = typed_text(*event);
     const bool is_command = (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
-    if (!is_command) key_pressed_ = true;
-    if (!is_command && keys_ == Keys::digits && event->text().front().isPrint() && !all_digits(event->text())) {
+    if (!typed.isEmpty() || !is_command) key_pressed_ = true;
+    if (keys_ == Keys::digits && !all_digits(typed)) {
       event->accept();
       return;
     }
@@ -114,9 +112,14 @@ void Field::keyPressEvent(QKeyEvent* event) {
 }
 
 void Field::inputMethodEvent(QInputMethodEvent* event) {
-  if (!event->commitString().isEmpty()) key_pressed_ = true;
-  if (keys_ == Keys::digits && !all_digits(event->commitString())) return;
-  QLineEdit::inputMethodEvent(event);
+  if (changes_text(*event)) key_pressed_ = true;
+  if (keys_ == Keys::any) {
+    QLineEdit::inputMethodEvent(event);
+    return;
+  }
+  const auto digits = digits_alone(*event);
+  QLineEdit::inputMethodEvent(digits.get());
+  event->setAccepted(digits->isAccepted());
 }
 
 void refuse_value(Field& field) {

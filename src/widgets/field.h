@@ -23,7 +23,8 @@ class Field : public QLineEdit {
 
   enum class Keys { any, digits };
 
-  /// Which typed characters are let in. Editing keys, selection and paste always work; `on_change` judges the result.
+  /// Which typed or composed characters are let in. Editing keys, shortcuts, selection and paste always work;
+  /// `on_change` judges the result.
   void let_in(Keys keys) { keys_ = keys; }
   /// How many characters can be typed or pasted. A longer text that the program shows stands whole, and can be made
   /// shorter only.

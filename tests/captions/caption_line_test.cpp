@@ -227,6 +227,14 @@ TEST_F(CaptionLineTest, OneStepTakesABackspaceBack) {
   EXPECT_EQ(line().text(), QStringLiteral("A·B"));
 }
 
+TEST_F(CaptionLineTest, WhatIsTypedWithOtherKeysHeldIsMarkedToo) {
+  tick("Chk_Double");
+  entered(QString{});
+  type(QStringLiteral("@"), Qt::ControlModifier | Qt::AltModifier);
+  type(QStringLiteral("5"), Qt::ControlModifier | Qt::KeypadModifier);
+  EXPECT_EQ(line().text(), QStringLiteral("·@·5"));
+}
+
 TEST_F(CaptionLineTest, APastedTextIsTakenAsItIs) {
   tick("Chk_Double");
   entered(QStringLiteral("old"));

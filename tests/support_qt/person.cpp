@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QInputMethodEvent>
 #include <QSignalSpy>
 #include <QTableView>
 #include <QTest>
@@ -29,12 +30,25 @@ void press(int key, Qt::KeyboardModifiers modifiers, int times) {
   for (int i = 0; i < times; ++i) QTest::keyClick(whoever_has_the_focus, static_cast<Qt::Key>(key), modifiers);
 }
 
-void type(const QString& text) {
+void type(const QString& text, Qt::KeyboardModifiers held) {
   for (const QChar c : text) {
     const ushort code = c.unicode();
     const int key = code < 128 ? QTest::asciiToKey(static_cast<char>(code)) : static_cast<int>(Qt::Key_unknown);
-    QTest::sendKeyEvent(QTest::Click, whoever_has_the_focus, static_cast<Qt::Key>(key), QString{c}, Qt::NoModifier);
+    QTest::sendKeyEvent(QTest::Click, whoever_has_the_focus, static_cast<Qt::Key>(key), QString{c}, held);
   }
+}
+
+void compose(const QString& composed) {
+  ASSERT_NE(QGuiApplication::focusObject(), nullptr);
+  QInputMethodEvent event{composed, {}};
+  QApplication::sendEvent(QGuiApplication::focusObject(), &event);
+}
+
+void finish_composing(const QString& final_text) {
+  ASSERT_NE(QGuiApplication::focusObject(), nullptr);
+  QInputMethodEvent event;
+  event.setCommitString(final_text);
+  QApplication::sendEvent(QGuiApplication::focusObject(), &event);
 }
 
 void click(QWidget& control) {

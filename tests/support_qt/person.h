@@ -18,8 +18,13 @@ namespace ecr::test {
 /// A key stroke to whatever has the focus, `times` times.
 void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, int times = 1);
 
-/// The characters one after another to whatever has the focus.
-void type(const QString& text);
+/// The characters one after another to whatever has the focus. What is `held` beside them still gives these characters,
+/// as Ctrl+Alt does where it is AltGr.
+void type(const QString& text, Qt::KeyboardModifiers held = Qt::NoModifier);
+
+/// What an input method tells whatever has the focus: a text that is being composed, or the final one.
+void compose(const QString& composed);
+void finish_composing(const QString& final_text);
 
 /// A click into the middle of a control. Fails the test if something else lies there or the control can't be used.
 void click(QWidget& control);

@@ -4,12 +4,17 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QClipboard>
 
 #include "support_qt/screen_test.h"
 #include "widgets/plain_screen.h"
 
 namespace ecr::test {
 namespace {
+
+const Qt::KeyboardModifiers modifiers[] = {Qt::AltModifier, Qt::ControlModifier, Qt::MetaModifier,
+                                           Qt::ControlModifier | Qt::AltModifier,
+                                           Qt::ControlModifier | Qt::AltModifier | Qt::ShiftModifier};
 
 const QStringList entries = {"0. OPEN", "1. NORMAL", "2. PRESET", "1. AGAIN", "12. TWELVE", "NONE"};
 
@@ -166,15 +171,44 @@ TEST_F(ChoiceListTest, TypedCharactersDoNothing) {
   EXPECT_FALSE(list.view()->isVisible()) << "a blank is a typed character, too";
 }
 
-TEST_F(ChoiceListTest, TypedCharactersDoNothingInTheOpenListEither) {
+TEST_F(ChoiceListTest, TypedCharactersDoNothingWhateverIsHeld) {
+  list.show_number(1);
+  tab_to(list);
+  for (const Qt::KeyboardModifiers held : modifiers) type(QStringLiteral("2N0. x\u00e9"), held);
+  EXPECT_EQ(list.text(), QStringLiteral("1. NORMAL"));
+  EXPECT_EQ(clicks, QStringList{});
+  EXPECT_FALSE(list.view()->isVisible());
+}
+
+TEST_F(ChoiceListTest, ComposedCharactersDoNothing) {
+  list.show_number(1);
+  tab_to(list);
+  compose(QStringLiteral("2"));
+  finish_composing(QStringLiteral("2"));
+  EXPECT_EQ(list.text(), QStringLiteral("1. NORMAL"));
+  EXPECT_EQ(clicks, QStringList{});
+}
+
+TEST_F(ChoiceListTest, TypedOrComposedCharactersDoNothingInTheOpenListEither) {
   list.show_number(1);
   tab_to(list);
   press(Qt::Key_Down, Qt::AltModifier);
   work_until([this] { return list.view()->isVisible(); });
   type(QStringLiteral("2"));
+  for (const Qt::KeyboardModifiers held : modifiers) type(QStringLiteral("2"), held);
+  finish_composing(QStringLiteral("2"));
   press(Qt::Key_Return);
   work_until([this] { return !list.view()->isVisible(); });
   EXPECT_EQ(list.text(), QStringLiteral("1. NORMAL"));
+}
+
+TEST_F(ChoiceListTest, AnEntryOfTheOpenListCanBeCopied) {
+  list.show_number(1);
+  tab_to(list);
+  press(Qt::Key_Down, Qt::AltModifier);
+  work_until([this] { return list.view()->isVisible(); });
+  press(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("1. NORMAL"));
 }
 
 TEST_F(ChoiceListTest, ListsThatAreToldToFindEntriesByTyping) {

@@ -5,7 +5,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
-#include <QInputMethodEvent>
+#include <QKeyEvent>
 
 #include "core/fault.h"
 #include "support_qt/screen_test.h"
@@ -43,6 +43,11 @@ class FieldOn : public Base {
   QStringList changes;
   QList<bool> typed;
 };
+
+/// Where the cursor stands, in pixels: behind what is being composed, which is no part of the text yet.
+int composed_end(const QLineEdit& field) {
+  return field.inputMethodQuery(Qt::ImCursorRectangle).toRect().x();
+}
 
 using FieldTest = FieldOn<ScreenTest>;
 using FieldUnderRealShell = FieldOn<RealShellTest>;
@@ -225,16 +230,85 @@ TEST_F(FieldTest, TheDigitFilterLetsASelectionBeCopiedCutAndPasted) {
   EXPECT_EQ(field.text(), QStringLiteral("no number")) << "what is pasted is judged by the change handler alone";
 }
 
+TEST_F(FieldTest, TheDigitFilterLooksAtTheCharacterWhateverIsHeld) {
+  field.let_in(Field::Keys::digits);
+  click(field);
+  const Qt::KeyboardModifiers altgr = Qt::ControlModifier | Qt::AltModifier;
+  for (const Qt::KeyboardModifiers held : {Qt::KeyboardModifiers{Qt::AltModifier}, altgr, altgr | Qt::ShiftModifier,
+                                           Qt::KeyboardModifiers{Qt::MetaModifier}}) {
+    type(QStringLiteral("a\u20ac\u00b2.-"), held);
+    EXPECT_EQ(field.text(), QString{}) << held.toInt();
+    type(QStringLiteral("7"), held);
+    EXPECT_EQ(field.text(), QStringLiteral("7")) << held.toInt();
+    field.clear();
+  }
+}
+
+TEST_F(FieldTest, TheDigitFilterDropsCharactersWithoutAPictureToo) {
+  field.let_in(Field::Keys::digits);
+  click(field);
+  for (const QString& text :
+       {QStringLiteral("\u200d"), QStringLiteral("\ue000"), QStringLiteral("\U0001F600"), QStringLiteral("1a")}) {
+    QKeyEvent event{QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, text};
+    QApplication::sendEvent(&field, &event);
+    EXPECT_EQ(field.text(), QString{});
+  }
+}
+
+TEST_F(FieldTest, AltAndALetterThatTypeNothingStillPressAButton) {
+  field.let_in(Field::Keys::digits);
+  below.setText(QStringLiteral("&Below"));
+  bool pressed = false;
+  below.on_click([&] { pressed = true; });
+  click(field);
+  type(QStringLiteral("b"), Qt::AltModifier);
+  work_until([&] { return pressed; });
+  EXPECT_EQ(field.text(), QString{});
+  EXPECT_EQ(changes, QStringList{});
+}
+
+TEST_F(FieldTest, ADigitTypedWithAltCountsAsTyped) {
+  click(field);
+  type(QStringLiteral("7"), Qt::AltModifier);
+  field.show_text(QStringLiteral("1"));
+  EXPECT_EQ(changes, QStringList({"7", "1"}));
+  EXPECT_EQ(typed, QList<bool>({true, false}));
+}
+
 TEST_F(FieldTest, TheDigitFilterHoldsForInputMethodsToo) {
   field.let_in(Field::Keys::digits);
   click(field);
-  for (const char* text : {"x", "5", "1x"}) {
-    QInputMethodEvent event;
-    event.setCommitString(QString::fromLatin1(text));
-    QApplication::sendEvent(&field, &event);
-  }
+  for (const char* text : {"x", "5", "1x"}) finish_composing(QString::fromLatin1(text));
   EXPECT_EQ(field.text(), QStringLiteral("5"));
   EXPECT_EQ(typed, QList<bool>{true});
+}
+
+TEST_F(FieldTest, TheDigitFilterHoldsWhileATextIsBeingComposed) {
+  field.let_in(Field::Keys::digits);
+  field.show_text(QStringLiteral("5"));
+  click(field);
+  press(Qt::Key_End);
+  const int end = composed_end(field);
+  compose(QStringLiteral("x"));
+  EXPECT_EQ(composed_end(field), end);
+  press(Qt::Key_A, Qt::ControlModifier);
+  compose(QStringLiteral("x"));
+  EXPECT_EQ(field.selectedText(), QStringLiteral("5")) << "nothing is replaced by what is not let in";
+  press(Qt::Key_End);
+  compose(QStringLiteral("7"));
+  EXPECT_GT(composed_end(field), end);
+  finish_composing(QStringLiteral("x"));
+  EXPECT_EQ(field.text(), QStringLiteral("5"));
+  EXPECT_EQ(composed_end(field), end) << "what was composed goes with the text that is not let in";
+}
+
+TEST_F(FieldTest, AFieldForAnyCharacterTakesWhatIsComposed) {
+  click(field);
+  const int end = composed_end(field);
+  compose(QStringLiteral("\u00b4"));
+  EXPECT_GT(composed_end(field), end);
+  finish_composing(QStringLiteral("\u00e9"));
+  EXPECT_EQ(field.text(), QStringLiteral("\u00e9"));
 }
 
 TEST_F(FieldTest, TheChangeHandlerRunsOnEveryChangeAlsoOfTheProgram) {

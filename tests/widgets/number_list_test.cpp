@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-
 #include <QApplication>
 #include <QLineEdit>
 
@@ -103,6 +102,43 @@ TEST_F(NumberListTest, CharactersThatAreNoDigitsAreDropped) {
   type(QStringLiteral("a4. -x"));
   EXPECT_EQ(list.currentText(), QStringLiteral("4"));
   EXPECT_EQ(loaded, Numbers{4});
+}
+
+TEST_F(NumberListTest, CharactersAreDroppedWhateverIsHeld) {
+  tab_to(list);
+  let_screens_settle();
+  for (const Qt::KeyboardModifiers held :
+       {Qt::KeyboardModifiers{Qt::AltModifier}, Qt::KeyboardModifiers{Qt::MetaModifier},
+        Qt::ControlModifier | Qt::AltModifier}) {
+    type(QStringLiteral("a.\u20ac"), held);
+  }
+  EXPECT_EQ(list.currentText(), QStringLiteral("1"));
+  EXPECT_EQ(loaded, Numbers{});
+  type(QStringLiteral("47"), Qt::AltModifier);
+  EXPECT_EQ(list.currentText(), QStringLiteral("47"));
+  EXPECT_EQ(loaded, (Numbers{4, 47}));
+}
+
+TEST_F(NumberListTest, ComposedDigitsAreTakenAndOtherTextIsDropped) {
+  tab_to(list);
+  let_screens_settle();
+  press(Qt::Key_End);
+  const auto cursor = [this] { return list.lineEdit()->inputMethodQuery(Qt::ImCursorRectangle).toRect().x(); };
+  const int end = cursor();
+  compose(QStringLiteral("x"));
+  EXPECT_EQ(cursor(), end);
+  finish_composing(QStringLiteral("x"));
+  EXPECT_EQ(list.currentText(), QStringLiteral("1"));
+  EXPECT_EQ(loaded, Numbers{});
+  press(Qt::Key_A, Qt::ControlModifier);
+  compose(QStringLiteral("4"));
+  EXPECT_EQ(loaded, Numbers{});
+  finish_composing(QStringLiteral("47"));
+  EXPECT_EQ(list.currentText(), QStringLiteral("47"));
+  EXPECT_EQ(loaded, Numbers{47});
+  finish_composing(QStringLiteral("8"));
+  EXPECT_EQ(list.currentText(), QStringLiteral("99"));
+  EXPECT_EQ(loaded, (Numbers{47, 99}));
 }
 
 TEST_F(NumberListTest, AnEmptiedListAndAZeroLoadNothing) {
