@@ -96,6 +96,7 @@ void FrmSetLogo::load() {
   programmed_text_ = message_or(Key::FRM_SET_LOGO_PROGRAMMED_MSG, "Logo Programmed");
   blank_text_ = message_or(Key::FRM_SET_LOGO_PATH_ERROR_MSG,
                            "Is not spossible send a logo that has a Space (' ') in the source path.");
+  Comm_Percorso.name = QStringLiteral("Comm_Percorso");
   Comm_Percorso.filter = bitmap_filter;
   Comm_Percorso.title = QStringLiteral("Percorso Immagine");
   // The sample that comes with the installation.

@@ -144,9 +144,7 @@ NumberList::NumberList(const QString& name, int last, QWidget* parent) : QComboB
   setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   setMinimumContentsLength(static_cast<int>(QString::number(last).size()));
   if (auto* view = qobject_cast<QListView*>(this->view())) view->setUniformItemSizes(true);
-  connect(this, &QComboBox::activated, this, [this] {
-    if (click_ && number() > 0) click_(number());
-  });
+  connect(this, &QComboBox::activated, this, [this] { load(); });
 }
 
 void NumberList::fill() {
@@ -158,6 +156,7 @@ void NumberList::fill() {
 void NumberList::show_number(int number) {
   setCurrentIndex(number - 1);
   setEditText(QString::number(number));
+  on_screen_ = this->number();
 }
 
 int NumberList::number() const {
@@ -175,7 +174,8 @@ void NumberList::keyPressEvent(QKeyEvent* event) {
 
 void NumberList::keyReleaseEvent(QKeyEvent* event) {
   QComboBox::keyReleaseEvent(event);
-  if (edits_the_number(*event)) typed();
+  // A number that came in without a key, from the field's menu, is taken up by the next key, whichever it is.
+  if (edits_the_number(*event) || number() != on_screen_) typed();
 }
 
 void NumberList::inputMethodEvent(QInputMethodEvent* event) {
@@ -201,8 +201,14 @@ void NumberList::typed() {
     setCurrentIndex(index);
     lineEdit()->setCursorPosition(cursor);
   }
+  load();
+}
+
+void NumberList::load() {
   // An emptied list, or a 0, names no record: the one on screen stays.
-  if (click_ && number() > 0) click_(number());
+  if (number() == 0) return;
+  on_screen_ = number();
+  if (click_) click_(on_screen_);
 }
 
 QStringList bare_numbers(int first, int last) {

@@ -72,7 +72,8 @@ class NumberList : public QComboBox {
   [[nodiscard]] int number() const;
   [[nodiscard]] int last() const { return last_; }
 
-  /// Loads a record: runs when the person picks a number or types a digit of one that is in the table.
+  /// Loads a record: runs when the person picks a number, or releases a key and has typed a digit or the number is
+  /// another one than that of the record on screen.
   void on_click(std::function<void(int number)> handler) { click_ = std::move(handler); }
 
  protected:
@@ -83,8 +84,10 @@ class NumberList : public QComboBox {
 
  private:
   void typed();
+  void load();
 
   int last_;
+  int on_screen_ = 0;  ///< the number that was shown or loaded last
   std::function<void(int)> click_;
 };
 

@@ -31,6 +31,7 @@ class FrmSetLogoTest : public ScreenTest {
       auto* chooser = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
       ASSERT_NE(chooser, nullptr);
       answered = true;
+      EXPECT_EQ(chooser->objectName(), QStringLiteral("Comm_Percorso"));
       title = chooser->windowTitle();
       filters = chooser->nameFilters();
       if (path.empty()) {

@@ -1,6 +1,11 @@
 #include <gtest/gtest.h>
+#include <memory>
+
+#include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QLineEdit>
+#include <QMenu>
 
 #include "support_qt/screen_test.h"
 #include "widgets/choice_list.h"
@@ -23,6 +28,16 @@ class NumberListTest : public ScreenTest {
   }
 
   using Numbers = std::vector<int>;
+
+  /// Pastes over all of it by the field's menu, where no key is pressed.
+  void paste_from_menu(const QString& text) {
+    QGuiApplication::clipboard()->setText(text);
+    list.lineEdit()->selectAll();
+    const std::unique_ptr<QMenu> menu{list.lineEdit()->createStandardContextMenu()};
+    for (QAction* action : menu->actions()) {
+      if (action->text().startsWith(QStringLiteral("&Paste"))) action->trigger();
+    }
+  }
 
   PlainScreen* screen;
   NumberList& list;
@@ -139,6 +154,34 @@ TEST_F(NumberListTest, ComposedDigitsAreTakenAndOtherTextIsDropped) {
   finish_composing(QStringLiteral("8"));
   EXPECT_EQ(list.currentText(), QStringLiteral("99"));
   EXPECT_EQ(loaded, (Numbers{47, 99}));
+}
+
+TEST_F(NumberListTest, AnyKeyBringsANumberPastedFromTheMenuBackIntoTheTable) {
+  for (const int key : {Qt::Key_End, Qt::Key_Left, Qt::Key_Shift, Qt::Key_Return, Qt::Key_F5}) {
+    list.show_number(12);
+    tab_to(list);
+    let_screens_settle();
+    loaded.clear();
+    paste_from_menu(QStringLiteral("3333"));
+    EXPECT_EQ(list.currentText(), QStringLiteral("3333"));
+    press(key);
+    EXPECT_EQ(list.currentText(), QStringLiteral("99"));
+    EXPECT_EQ(loaded, Numbers{99});
+  }
+}
+
+TEST_F(NumberListTest, AnyKeyLoadsANumberPastedFromTheMenu) {
+  tab_to(list);
+  let_screens_settle();
+  paste_from_menu(QStringLiteral("33"));
+  EXPECT_EQ(loaded, Numbers{});
+  press(Qt::Key_End);
+  EXPECT_EQ(loaded, Numbers{33});
+  press(Qt::Key_Home);
+  EXPECT_EQ(loaded, Numbers{33}) << "it is on screen now";
+  press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(list.currentText(), QStringLiteral("1"));
+  EXPECT_EQ(loaded, (Numbers{33, 1})) << "taking it back is a change, too";
 }
 
 TEST_F(NumberListTest, AnEmptiedListAndAZeroLoadNothing) {

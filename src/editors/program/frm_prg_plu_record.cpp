@@ -45,7 +45,9 @@ void take_price(Bcd<4>& price, Flags& flags, std::uint8_t bit, const Decimal& am
 }
 
 Chooser csv_chooser() {
-  return {QStringLiteral("Percorso Immagine"), QStringLiteral("File CSV(*.csv)")};
+  return {.title = QStringLiteral("Percorso Immagine"),
+          .filter = QStringLiteral("File CSV(*.csv)"),
+          .name = QStringLiteral("Comm_Percorso")};
 }
 
 }  // namespace

@@ -33,13 +33,15 @@ class PluExchange : public PluEditorTest {
   }
 };
 
-TEST_F(PluExchange, TheChooserHasItsTitleAndItsFilter) {
+TEST_F(PluExchange, TheChooserHasItsNameItsTitleAndItsFilter) {
   open_editor();
   export_to("items.csv");
+  EXPECT_EQ(seen.name, QStringLiteral("Comm_Percorso"));
   EXPECT_EQ(seen.title, QStringLiteral("Percorso Immagine"));
   EXPECT_EQ(seen.filters, QStringList{"File CSV(*.csv)"});
   EXPECT_EQ(seen.named, QString{});
   import_from("items.csv");
+  EXPECT_EQ(seen.name, QStringLiteral("Comm_Percorso"));
   EXPECT_EQ(seen.title, QStringLiteral("Percorso Immagine"));
   EXPECT_EQ(seen.filters, QStringList{"File CSV(*.csv)"});
   EXPECT_EQ(seen.named, QStringLiteral("items.csv")) << "the remembered name is offered";

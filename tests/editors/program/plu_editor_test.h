@@ -106,6 +106,7 @@ class PluEditorTest : public ScreenTest {
 
   /// What the last chooser showed.
   struct SeenChooser {
+    QString name;
     QString title;
     QStringList filters;
     QString named;
@@ -121,7 +122,7 @@ class PluEditorTest : public ScreenTest {
         return;
       }
       auto* name = chooser->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-      seen = {chooser->windowTitle(), chooser->nameFilters(), name->text()};
+      seen = {chooser->objectName(), chooser->windowTitle(), chooser->nameFilters(), name->text()};
       const std::string chosen = path();
       if (chosen.empty()) {
         chooser->reject();
