@@ -44,6 +44,11 @@ constexpr Wrong forms[] = {
     {"half_an_escaped_byte", "keys \"\\x4\"", "\\\", \\\\, \\n, \\r, \\t or \\x with two hexadecimal digits", "\\x4\""},
     {"unknown_model", "register model Z310", "register model Z300|Z320", "\"Z310\" for Z300|Z320"},
     {"unknown_release", "register release RELEASE", "register release RELEASE.BIN|RELEA.BIN|none", "\"RELEASE\" for RELEASE.BIN|RELEA.BIN|none"},
+    {"include_of_nothing", "include", "include SCRIPT", "no SCRIPT"},
+    {"include_of_two", "include a.robot b.robot", "include SCRIPT", "\"b.robot\" too much"},
+    {"include_of_no_file", "include shared/none.robot", "a script shared/none.robot", "no such file"},
+    {"include_of_a_folder", "include temporary", "a script temporary", "no such file"},
+    {"include_of_itself", "# first\ninclude ./case.robot", "a script that is not being read already", "case.robot"},
     {"unknown_logo", "register logo abnormal", "register logo normal / CODE", "\"abnormal\" for CODE"},
 };
 
@@ -102,6 +107,47 @@ TEST_F(AFault, IsFoundBeforeAnyLineRuns) {
   const Outcome outcome = run({script(QStringLiteral("expect-file Setup missing\n\n# a remark\nclik C_Ask\n"))});
   EXPECT_EQ(outcome.status, 2);
   EXPECT_EQ(outcome.lines.first(), QStringLiteral("case.robot:4: clik C_Ask"));
+}
+
+TEST_F(AFault, InAnIncludedScriptIsFoundBeforeAnyLineRunsToo) {
+  script(QStringLiteral("expect-file Setup folder\nclik C_Ask"), QStringLiteral("shared/one.robot"));
+  const Outcome outcome =
+      run({script(QStringLiteral("expect-file Setup missing\ninclude shared/one.robot\nexpect-file Setup missing"))});
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(outcome.lines,
+            (QStringList{QStringLiteral("shared/one.robot:2: clik C_Ask"), QStringLiteral("    expected: a command"),
+                         QStringLiteral("    found:    unknown word \"clik\""),
+                         QStringLiteral("    included: case.robot:2: include shared/one.robot"),
+                         QStringLiteral("0 passed, 1 failed")}));
+}
+
+TEST_F(AFault, IsAScriptThatLeadsBackToItself) {
+  script(QStringLiteral("include two.robot"), QStringLiteral("shared/one.robot"));
+  script(QStringLiteral("# second\ninclude one.robot"), QStringLiteral("shared/two.robot"));
+  const Outcome outcome = run({script(QStringLiteral("include shared/one.robot"))});
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(outcome.lines, (QStringList{QStringLiteral("shared/two.robot:2: include one.robot"),
+                                        QStringLiteral("    expected: a script that is not being read already"),
+                                        QStringLiteral("    found:    shared/one.robot"),
+                                        QStringLiteral("    included: shared/one.robot:1: include two.robot"),
+                                        QStringLiteral("    included: case.robot:1: include shared/one.robot"),
+                                        QStringLiteral("0 passed, 1 failed")}));
+}
+
+TEST_F(AFault, IsAnIncludedScriptThatIsNotThereOrInAnotherCode) {
+  script(QStringLiteral("include none.robot"), QStringLiteral("shared/one.robot"));
+  Outcome outcome = run({script(QStringLiteral("include shared/one.robot"))});
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(outcome.lines.value(0), QStringLiteral("shared/one.robot:1: include none.robot"));
+  EXPECT_EQ(outcome.lines.value(1), QStringLiteral("    expected: a script shared/none.robot"));
+  QFile file{path(QStringLiteral("shared/none.robot"))};
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write("# caf\xE9\n");
+  file.close();
+  outcome = run({QStringLiteral("case.robot")});
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(outcome.lines.value(1), QStringLiteral("    expected: a script in UTF-8"));
+  EXPECT_EQ(outcome.lines.value(3), QStringLiteral("    included: shared/one.robot:1: include none.robot"));
 }
 
 TEST_F(AFault, IsAScriptThatIsNotThere) {

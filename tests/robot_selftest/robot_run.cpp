@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 #include <QProcessEnvironment>
 
@@ -28,6 +29,7 @@ void RobotRun::SetUp() {
 
 QString RobotRun::script(const QString& text, const QString& name) {
   QFile file{path(name)};
+  EXPECT_TRUE(QDir{}.mkpath(QFileInfo{file}.absolutePath()));
   EXPECT_TRUE(file.open(QIODevice::WriteOnly));
   file.write(text.toUtf8());
   return name;

@@ -27,7 +27,7 @@ class RobotRun : public ::testing::Test {
   /// A file in the test's own folder.
   [[nodiscard]] QString path(const QString& name) const { return folder_.filePath(name); }
 
-  /// Writes a script and answers its name, as it is given to the robot.
+  /// Writes a script, in a folder of its own where its name has one, and answers its name as it is given to the robot.
   QString script(const QString& text, const QString& name = QStringLiteral("case.robot"));
 
   void set_environment(const char* name, const QString& value);

@@ -67,6 +67,53 @@ TEST_F(ARun, TakesScriptsWithAnyLineEndsBlanksAndAMarkInFront) {
   EXPECT_EQ(outcome.status, 0) << outcome.text().toStdString();
 }
 
+TEST_F(ARun, ReadsTheLinesOfAnIncludedScriptAsIfTheyStoodThere) {
+  script(QStringLiteral("# remarks do not count\nmake-folder one\ninclude deeper/two.robot\nexpect-file two folder\n"),
+         QStringLiteral("shared/one.robot"));
+  script(QStringLiteral("make-folder two\nwrite script/beside.txt x"), QStringLiteral("shared/deeper/two.robot"));
+  script(QString{}, QStringLiteral("shared/nothing.robot"));
+  const Outcome outcome =
+      run({script(QStringLiteral("expect-file one missing\ninclude shared/one.robot\n"
+                                 "expect-file one folder\ninclude shared/nothing.robot\n"
+                                 "include \"shared/../shared/deeper/two.robot\"\n"))});
+  EXPECT_EQ(outcome.status, 0) << outcome.text().toStdString();
+  EXPECT_TRUE(outcome.lines.first().startsWith(QStringLiteral("case.robot: passed, 8 lines in ")))
+      << outcome.text().toStdString();
+  EXPECT_EQ(read(path(QStringLiteral("beside.txt"))), QStringLiteral("x"))
+      << "the folder of the script is that of the one that was given to the robot";
+}
+
+TEST_F(ARun, TellsOfALineInAnIncludedScriptWhereItStandsAndWhatBroughtItIn) {
+  script(QStringLiteral("start\ninclude deeper/two.robot"), QStringLiteral("shared/one.robot"));
+  script(QStringLiteral("\nexpect-title Other"), QStringLiteral("shared/deeper/two.robot"));
+  const Outcome outcome = run({QStringLiteral("--log"), QStringLiteral("logs/all.log"),
+                               script(QStringLiteral("# first\ninclude shared/one.robot\nclose\n"))});
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_EQ(outcome.lines,
+            (QStringList{QStringLiteral("shared/deeper/two.robot:2: expect-title Other"),
+                         QStringLiteral("    expected: the title \"Other\""),
+                         QStringLiteral("    found:    \"Practice \u00e9\""),
+                         QStringLiteral("    included: shared/one.robot:2: include deeper/two.robot"),
+                         QStringLiteral("    included: case.robot:2: include shared/one.robot"),
+                         QStringLiteral("    picture:  ") + path(QStringLiteral("logs/all-case-two-line-2.png")),
+                         QStringLiteral("0 passed, 1 failed")}));
+  EXPECT_TRUE(read(path(QStringLiteral("logs/all.log"))).contains(QStringLiteral("shared/one.robot:1: start")));
+}
+
+TEST_F(ARun, NamesAnIncludedScriptAsTheUserNamedTheFirst) {
+  script(QStringLiteral("expect-file Setup missing"), QStringLiteral("a/shared.robot"));
+  const QString name = script(QStringLiteral("include ../a/shared.robot"), QStringLiteral("b/case.robot"));
+  EXPECT_EQ(run({name}).lines.value(0), QStringLiteral("a/shared.robot:1: expect-file Setup missing"));
+  EXPECT_EQ(run({path(name)}).lines.value(0), path(QStringLiteral("a/shared.robot:1: expect-file Setup missing")));
+}
+
+TEST_F(ARun, FailsAtTheEndOfTheScriptAlsoWhereThatIsIncluded) {
+  script(QStringLiteral("\n\n\nstart\ncheck Chk_CrashOnClose on"), QStringLiteral("shared.robot"));
+  const Outcome outcome = run({script(QStringLiteral("# first\ninclude shared.robot"))});
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_EQ(outcome.lines.value(0), QStringLiteral("case.robot:3: (the end of the script)"));
+}
+
 TEST_F(ARun, GivesEachScriptAFreshInstallation) {
   const QString text =
       QStringLiteral("expect-file Setup/mine.txt missing\nwrite Setup/mine.txt x\npoke Setup/words.txt 0 00\n");

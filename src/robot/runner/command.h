@@ -43,6 +43,7 @@ struct Command {
   /// digits, KEY a key's name, words with "|" one of these, "[...]" may be left out, "..." any number of the last.
   const char* form = nullptr;
   Trying trying = Trying::once;
+  /// None for `include`, whose place the included lines take when the script is read.
   void (*run)(Session& session, const Arguments& arguments) = nullptr;
   bool waits_as_told = false;  ///< the limit of a line does not apply
 };

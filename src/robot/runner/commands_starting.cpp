@@ -48,6 +48,7 @@ void restart(Session& session, const Arguments& arguments) {
 }
 
 constexpr auto commands = std::to_array<Command>({
+    {"include", "SCRIPT", Trying::once, nullptr},
     {"start", "[WORD]", Trying::once, start},
     {"expect-ended", "", Trying::again, expect_ended},
     {"restart", "[WORD]", Trying::once, restart},

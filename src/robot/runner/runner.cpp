@@ -11,7 +11,6 @@
 #include <QTime>
 
 #include "robot/runner/command.h"
-#include "robot/runner/files.h"
 
 namespace ecr::robot {
 namespace {
@@ -30,6 +29,12 @@ QString usual_log_folder() {
     if (QDir{}.mkpath(logs) && QFileInfo{logs}.isWritable()) return logs;
   }
   return QDir::tempPath();
+}
+
+/// "vat.robot:11: click C_Salva", or the file alone.
+QString text_of(const Place& place) {
+  if (place.number == 0) return place.file + QLatin1Char(':');
+  return place.file + QLatin1Char(':') + QString::number(place.number) + QLatin1String(": ") + place.source;
 }
 
 /// Runs the command of a line until it holds or the patience with it is at an end.
@@ -67,9 +72,7 @@ void Runner::run(const QString& script) {
   const QFileInfo file{script};
   std::vector<ScriptLine> lines;
   try {
-    const auto bytes = read_bytes(script);
-    if (!bytes) throw LineFault{0, {}, {QStringLiteral("a script"), QStringLiteral("no such file")}};
-    lines = read_script(*bytes);
+    lines = read_script(script);
     Session session{settings_.used_folder, file.absolutePath(), settings_.patience};
     run_lines(session, lines);
     if (!settings_.used_folder.isEmpty()) session.calls.end();
@@ -77,10 +80,10 @@ void Runner::run(const QString& script) {
       if (const auto kept = session.installation.keep()) print(QStringLiteral("%1: kept in %2").arg(script, *kept));
     }
   } catch (const LineFault& fault) {
-    trouble_ = {Status::fault, fault.number, fault.source, fault.fault.expected, fault.fault.found};
+    trouble_ = {Status::fault, fault.places, fault.fault.expected, fault.fault.found};
     tell(trouble_, {});
   } catch (const ScriptFault& fault) {
-    trouble_ = {Status::fault, 0, {}, fault.expected, fault.found};
+    trouble_ = {Status::fault, {{script, 0, {}}}, fault.expected, fault.found};
     tell(trouble_, {});
   }
   worst_ = std::max(worst_, trouble_.status);
@@ -147,11 +150,11 @@ void Runner::run_line(Session& session, const ScriptLine& line) {
   taken.start();
   try {
     try_line(session, line);
-    log(QStringLiteral("%1:%2: %3  [%4 ms]").arg(script_).arg(line.number).arg(line.source).arg(taken.elapsed()));
+    log(text_of(line.places.front()) + QStringLiteral("  [%1 ms]").arg(taken.elapsed()));
   } catch (const Unmet& unmet) {
     trouble_ = trouble_of(line, unmet);
   } catch (const ScriptFault& fault) {
-    trouble_ = {Status::fault, line.number, line.source, fault.expected, fault.found};
+    trouble_ = {Status::fault, line.places, fault.expected, fault.found};
   }
 }
 
@@ -167,14 +170,16 @@ void Runner::end(Session& session, const ScriptLine& last) {
     log_errors(session);
   } catch (const Unmet& unmet) {
     log_errors(session);
-    trouble_ = trouble_of({last.number + 1, QStringLiteral("(the end of the script)"), {}, nullptr}, unmet);
+    const int last_number = last.places.empty() ? 0 : last.places.back().number;
+    trouble_ =
+        trouble_of({{{script_, last_number + 1, QStringLiteral("(the end of the script)")}}, {}, nullptr}, unmet);
     tell(trouble_, picture_of_failure(session, trouble_));
     session.program.kill();
   }
 }
 
 Runner::Trouble Runner::trouble_of(const ScriptLine& line, const Unmet& unmet) {
-  return {Status::unmet, line.number, line.source, unmet.expected, unmet.found};
+  return {Status::unmet, line.places, unmet.expected, unmet.found};
 }
 
 QString Runner::picture_of_failure(Session& session, const Trouble& trouble) const {
@@ -182,15 +187,19 @@ QString Runner::picture_of_failure(Session& session, const Trouble& trouble) con
   QString name = log_file.completeBaseName();
   const QString script = QFileInfo{script_}.completeBaseName();
   if (name != script) name += QLatin1Char('-') + script;
+  const Place& place = trouble.places.front();
+  if (trouble.places.size() > 1) name += QLatin1Char('-') + QFileInfo{place.file}.completeBaseName();
   const QString path =
-      QStringLiteral("%1/%2-line-%3.png").arg(log_file.absolutePath(), name, QString::number(trouble.number));
+      QStringLiteral("%1/%2-line-%3.png").arg(log_file.absolutePath(), name, QString::number(place.number));
   return session.save_picture(path) ? path : QString{};
 }
 
 void Runner::tell(const Trouble& trouble, const QString& picture) {
-  QString text = trouble.number > 0 ? QStringLiteral("%1:%2: %3").arg(script_).arg(trouble.number).arg(trouble.source)
-                                    : script_ + QLatin1Char(':');
+  QString text = text_of(trouble.places.front());
   text += QStringLiteral("\n    expected: ") + trouble.expected + QStringLiteral("\n    found:    ") + trouble.found;
+  for (std::size_t i = 1; i < trouble.places.size(); ++i) {
+    text += QStringLiteral("\n    included: ") + text_of(trouble.places[i]);
+  }
   if (!picture.isEmpty()) text += QStringLiteral("\n    picture:  ") + picture;
   const QString errors = QString::fromUtf8(last_errors_).trimmed();
   if (!errors.isEmpty()) {

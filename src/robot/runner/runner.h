@@ -30,8 +30,7 @@ class Runner {
   enum class Status { passed = 0, unmet = 1, fault = 2 };
   struct Trouble {
     Status status = Status::passed;
-    int number = 0;
-    QString source;
+    Places places;
     QString expected;
     QString found;
   };

@@ -1,10 +1,16 @@
 #include "robot/runner/script.h"
 
 #include <optional>
+#include <utility>
 
+#include <QByteArray>
+#include <QDir>
+#include <QFileInfo>
 #include <QStringDecoder>
 
 #include "robot/runner/command.h"
+#include "robot/runner/files.h"
+#include "robot/runner/host.h"
 #include "robot/runner/text.h"
 
 namespace ecr::robot {
@@ -62,12 +68,71 @@ Word quoted_word(const QString& line, qsizetype& at) {
   throw ScriptFault{QStringLiteral("a text that ends with a double quote"), QStringLiteral("the end of the line")};
 }
 
-ScriptLine read_line(int number, const QString& source) {
-  ScriptLine line{number, source, words_of(source), nullptr};
-  line.command = find_command(line.words);
-  check_words(*line.command, line.words);
-  return line;
-}
+/// Reads a script and the scripts that it includes, line after line.
+class Reader {
+ public:
+  /// Appends the lines of a file; `by` are the places of the `include` lines that led to it.
+  void read(const QString& file, const Places& by) {
+    const std::optional<QByteArray> bytes = read_bytes(file);
+    if (!bytes && by.empty()) {
+      throw LineFault{at(file, 0, {}, by), {QStringLiteral("a script"), QStringLiteral("no such file")}};
+    }
+    if (!bytes) throw LineFault{by, {QStringLiteral("a script %1").arg(file), QStringLiteral("no such file")}};
+    QStringDecoder decoder{QStringDecoder::Utf8};
+    const QString text = decoder.decode(*bytes);
+    if (decoder.hasError()) {
+      throw LineFault{at(file, 1, {}, by), {QStringLiteral("a script in UTF-8"), QStringLiteral("other bytes")}};
+    }
+    open_.append(file_on_disk(file));
+    int number = 0;
+    for (const QString& raw : with_plain_breaks(text).split(QLatin1Char('\n'))) {
+      ++number;
+      const QString source = raw.trimmed();
+      if (!source.isEmpty() && !source.startsWith(QLatin1Char('#'))) read_line(at(file, number, source, by));
+    }
+    open_.removeLast();
+  }
+
+  std::vector<ScriptLine> lines;
+
+ private:
+  /// The same text for the same file, however it is named.
+  static QString file_on_disk(const QString& file) {
+    const QString path = QFileInfo{file}.canonicalFilePath();
+    return paths_ignore_case() ? path.toCaseFolded() : path;
+  }
+
+  static Places at(const QString& file, int number, const QString& source, const Places& by) {
+    Places places{{file, number, source}};
+    places.insert(places.end(), by.begin(), by.end());
+    return places;
+  }
+
+  void read_line(const Places& places) {
+    try {
+      ScriptLine line{places, words_of(places.front().source), nullptr};
+      line.command = find_command(line.words);
+      check_words(*line.command, line.words);
+      if (line.command->run != nullptr) {
+        lines.push_back(std::move(line));
+      } else {
+        include(line.words.front().text, places);
+      }
+    } catch (const ScriptFault& fault) {
+      throw LineFault{places, fault};
+    }
+  }
+
+  void include(const QString& name, const Places& places) {
+    const QString file = QDir::cleanPath(QFileInfo{places.front().file}.dir().filePath(name));
+    if (open_.contains(file_on_disk(file))) {
+      throw ScriptFault{QStringLiteral("a script that is not being read already"), file};
+    }
+    read(file, places);
+  }
+
+  QStringList open_;  ///< the files that are being read, each included by the one before
+};
 
 }  // namespace
 
@@ -87,23 +152,10 @@ std::vector<Word> words_of(const QString& line) {
   return words;
 }
 
-std::vector<ScriptLine> read_script(const QByteArray& bytes) {
-  QStringDecoder decoder{QStringDecoder::Utf8};
-  const QString text = decoder.decode(bytes);
-  if (decoder.hasError()) throw LineFault{1, {}, {QStringLiteral("a script in UTF-8"), QStringLiteral("other bytes")}};
-  std::vector<ScriptLine> lines;
-  int number = 0;
-  for (const QString& raw : with_plain_breaks(text).split(QLatin1Char('\n'))) {
-    ++number;
-    const QString source = raw.trimmed();
-    if (source.isEmpty() || source.startsWith(QLatin1Char('#'))) continue;
-    try {
-      lines.push_back(read_line(number, source));
-    } catch (const ScriptFault& fault) {
-      throw LineFault{number, source, fault};
-    }
-  }
-  return lines;
+std::vector<ScriptLine> read_script(const QString& file) {
+  Reader reader;
+  reader.read(file, {});
+  return std::move(reader.lines);
 }
 
 }  // namespace ecr::robot

@@ -3,7 +3,6 @@
 
 #include <vector>
 
-#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
@@ -18,22 +17,31 @@ struct Word {
 
 struct Command;
 
+/// Where a line stands.
+struct Place {
+  QString file;    ///< as the user named it, or relative to where the user's file was looked for
+  int number = 0;  ///< the first is 1; 0 for a file as a whole
+  QString source;  ///< as it stands in the file, without blanks around it
+};
+
+/// The place of a line, then that of the `include` that brought it in, and so on up to the user's script.
+using Places = std::vector<Place>;
+
 struct ScriptLine {
-  int number = 0;           ///< the first is 1
-  QString source;           ///< as it stands in the script, without blanks around it
+  Places places;
   std::vector<Word> words;  ///< without those of the command
   const Command* command = nullptr;
 };
 
 /// A line that cannot be understood.
 struct LineFault {
-  int number = 0;
-  QString source;
+  Places places;
   ScriptFault fault;
 };
 
-/// Reads a whole script, UTF-8. Throws a LineFault at the first line that is not a command written as it must be.
-[[nodiscard]] std::vector<ScriptLine> read_script(const QByteArray& bytes);
+/// Reads a whole script, UTF-8, and all that it includes. Throws a LineFault at the first line that is not a command
+/// written as it must be, or that includes what cannot be included.
+[[nodiscard]] std::vector<ScriptLine> read_script(const QString& file);
 
 /// The words of one line. Throws a ScriptFault.
 [[nodiscard]] std::vector<Word> words_of(const QString& line);
