@@ -23,7 +23,6 @@ std::uint8_t EcrModel = model_z300;
 std::int16_t MaxPlu = 0;
 std::uint8_t FwLevel = 0;
 std::uint8_t DecimalPoint = 0;
-bool LogSkipOnce = false;
 std::string ProgramVersion;
 
 void set_folders(std::string_view application_folder) {
@@ -66,7 +65,6 @@ void reset() {
   MaxPlu = 0;
   FwLevel = 0;
   DecimalPoint = 0;
-  LogSkipOnce = false;
 }
 
 }  // namespace ecr::Global

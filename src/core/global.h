@@ -26,7 +26,6 @@ extern std::uint8_t EcrModel;       ///< model_z300 or model_z320
 extern std::int16_t MaxPlu;         ///< 3000 on both models, set when a model is chosen
 extern std::uint8_t FwLevel;        ///< class of the linked firmware, see link/firmware.h
 extern std::uint8_t DecimalPoint;   ///< decimals of amounts, 0 to 3; copy of SysOpt0 taken when the Setup menu opens
-extern bool LogSkipOnce;            ///< the next line for the run log is dropped
 extern std::string ProgramVersion;  ///< "V. 1.0.0", set on the start screen
 
 inline constexpr std::uint8_t model_z300 = 0;

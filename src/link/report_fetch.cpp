@@ -34,7 +34,7 @@ Fault displace_older(std::string_view report) {
 
 std::string Txt_MPS_Min;
 
-bool Receive_ReportEcr(std::uint8_t number) {
+bool Receive_ReportEcr(std::uint8_t number, bool skipLog) {
   const Fault pending = displace_older(number < ReportName.size() ? ReportName[number] : std::string_view{});
 
   std::int32_t resultCode = 0;
@@ -51,12 +51,13 @@ bool Receive_ReportEcr(std::uint8_t number) {
   }
 
   const bool delivered = answer == 1 && resultCode == ResultCode::done;
+  if (answer == 1 && !by_range && resultCode == ResultCode::timeout) Process_Kill(exchange_tool);
+  if (skipLog) return delivered;
   if (answer != 1) {
     memo_log("Receive_ReportEcr error using regwire");
   } else if (!delivered) {
     memo_log("Receive_ReportEcr error. File " + std::to_string(number) + " Code: " + hex_text(resultCode) +
              " Desc: " + std::string{NumToDesc_RegWire(resultCode)});
-    if (!by_range && resultCode == ResultCode::timeout) Process_Kill(exchange_tool);
   }
   if (pending.stands()) log_fault("Receive_ReportEcr " + std::to_string(number) + ": ", pending);
   return delivered;

@@ -235,9 +235,9 @@ TEST_F(FrmPresTest, DebuggingTellsOfEachTestAndOfTheLastTick) {
   link().register_port = 4;
   let_time_pass();
   let_time_pass();
-  // In a tick each test drops the line behind it, whichever it is: that of the failure, or that of the success.
   EXPECT_EQ(log_behind_start(), (Lines{ping_failed, "Test COM 3 KO", ping_failed, "Test COM 4 KO",  //
-                                       "Test COM 3 KO", "Timer_TestCom: 4"}));
+                                       "Test COM 3 KO", "Test COM 4 OK", "Timer_TestCom: 4"}))
+      << "a tick keeps the failures of its tests out of the log, and nothing else";
 }
 
 TEST_F(FrmPresTest, DebuggingTellsOfAPortThatAnswersAtOnce) {
@@ -391,6 +391,18 @@ TEST_F(FrmPresTest, ExitLogsTheEndAndEndsTheProgram) {
   open_start();
   expect_program_ends([this] { click("C_Exit"); });
   EXPECT_EQ(log_behind_start(), Lines{"End Programm"});
+}
+
+TEST_F(FrmPresTest, ExitDuringATicksTestIsLoggedToo) {
+  system.captions = {"Modem (COM3)"};
+  link().register_port = 9;
+  open_start();
+  start->first_discovery();
+  expect_program_ends([this] {
+    during_the_first_test([this] { click("C_Exit"); });
+    let_time_pass();
+  });
+  EXPECT_EQ(log_behind_start(), (Lines{ping_failed, "End Programm"}));
 }
 
 TEST_F(FrmPresTest, TheCloseBoxEndsTheProgramAsExitDoes) {
