@@ -3,6 +3,7 @@
 #include <array>
 
 #include "core/files.h"
+#include "core/run_log.h"
 
 namespace ecr::Global {
 
@@ -51,6 +52,16 @@ void crea_cartelle() {
   for (const std::string* folder : std::array{&PathLog, &PathDati, &PathSetup, &PathReportDati, &PathReport}) {
     const std::string name = folder->substr(0, folder->empty() ? 0 : folder->size() - 1);
     if (!folder_exists(name)) static_cast<void>(make_folder(name));
+  }
+}
+
+void remove_unfinished_saves() {
+  if (PathApp.empty()) return;
+  // The emulated register saves as well, in a folder of its own.
+  for (const std::string& folder : {PathApp, PathSetup, PathDati, PathReportDati, PathApp + "register\\"}) {
+    for (const std::string& name : ecr::remove_unfinished_saves(folder)) {
+      memo_log("Removed what a save that was cut off had left: " + name);
+    }
   }
 }
 

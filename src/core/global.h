@@ -44,6 +44,10 @@ void choose_model(std::uint8_t model);
 /// the folder cannot be opened. The folders that must come with the installation are not created.
 void crea_cartelle();
 
+/// Removes what saves of an earlier run that were cut off have left in the folders in which the program saves, and logs
+/// the name of each.
+void remove_unfinished_saves();
+
 /// Everything as before the program's start, for tests.
 void reset();
 
