@@ -39,7 +39,7 @@ void read_and_write(Installation& installation, const std::string& file, std::ui
   installation.shell.boxes = 0;
   const bool passed = Read_PrgMode();
   require(bytes_of_image(PrgMode) == expected, "the working image is the head of the file");
-  require(passed == keypad_matches(PrgMode, model), "the answer is the keypad test's");
+  require(passed == (!file.empty() && keypad_matches(PrgMode, model)), "the answer is the keypad test's");
   require(installation.shell.boxes == (passed ? 0 : 1), "a box tells of a failed keypad test and of nothing else");
 
   Write_PrgMode();

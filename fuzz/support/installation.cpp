@@ -69,8 +69,16 @@ void QuietShell::wait_until(std::string_view, double, const std::function<bool()
   while (!done()) let_screens_work();
 }
 
-Fault QuietSystem::replace_file(const std::string& path, std::string_view bytes) {
-  return host_system().replace_file(path, bytes);
+Fault QuietSystem::write_beside(const std::string& path, std::string_view bytes, FreshFile& fresh) {
+  return host_system().write_beside(path, bytes, fresh);
+}
+
+Fault QuietSystem::rename_over(const FreshFile& fresh) {
+  return host_system().rename_over(fresh);
+}
+
+Fault QuietSystem::flush_folder_of(const std::string& target) {
+  return host_system().flush_folder_of(target);
 }
 
 Fault QuietSystem::append_file(const std::string& path, std::string_view bytes) {

@@ -55,7 +55,9 @@ class QuietSystem final : public System {
  public:
   std::optional<std::vector<std::string>> captions;
 
-  Fault replace_file(const std::string& path, std::string_view bytes) override;
+  Fault write_beside(const std::string& path, std::string_view bytes, FreshFile& fresh) override;
+  Fault rename_over(const FreshFile& fresh) override;
+  Fault flush_folder_of(const std::string& target) override;
   Fault append_file(const std::string& path, std::string_view bytes) override;
   std::vector<ProcessEntry> processes() override { return {}; }
   bool end_process(std::uint64_t) override { return false; }

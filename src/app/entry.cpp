@@ -17,11 +17,13 @@
 #include "editors/program/frm_ns_menu_setting.h"
 #include "editors/program/frm_percentage_menu.h"
 #include "editors/program/frm_permission_program.h"
-#include "editors/program/frm_poramp_key_menu.h"
 #include "editors/program/frm_plu_page_program.h"
 #include "editors/program/frm_pop_up_plu_list.h"
+#include "editors/program/frm_poramp_key_menu.h"
 #include "editors/program/frm_prg_plu.h"
 #include "editors/program/frm_set_vat_rate.h"
+#include "editors/program/frm_system_option.h"
+#include "editors/program/frm_tender_menu_setting.h"
 #include "editors/setting/frm_clerk_menu_setup.h"
 #include "editors/setting/frm_ej_setup.h"
 #include "editors/setting/frm_hospitality_setup.h"
@@ -29,8 +31,6 @@
 #include "editors/setting/frm_print_mode.h"
 #include "editors/setting/frm_report_setup.h"
 #include "editors/setting/frm_working_mode.h"
-#include "editors/program/frm_system_option.h"
-#include "editors/program/frm_tender_menu_setting.h"
 #include "image/side_files.h"
 #include "keyboard/frm_advanced_setting.h"
 #include "lang/language.h"
@@ -61,8 +61,8 @@ QIcon window_icon() {
   return icon;
 }
 
-/// Does what can wait until the start screen is to be seen: it reads the window's icon, and searches for the port,
-/// whose colours the screen shows.
+/// Does what can wait until the start screen is to be seen: it reads the window's icon, clears away what an earlier run
+/// left, and searches for the port, whose colours the screen shows.
 class BehindFirstPaint : public QObject {
  public:
   explicit BehindFirstPaint(FrmPres& screen) : QObject{&screen}, screen_{screen} { screen.installEventFilter(this); }
@@ -73,6 +73,7 @@ class BehindFirstPaint : public QObject {
       screen_.removeEventFilter(this);
       QTimer::singleShot(0, &screen_, [&screen = screen_] {
         screen.window()->setWindowIcon(window_icon());
+        Global::remove_unfinished_saves();
         screen.first_discovery();
       });
       deleteLater();
@@ -134,6 +135,7 @@ void Main(Stage& stage, const QString& application_folder, const QString& comman
   auto* start = new FrmPres;
   stage.open(start);
   if (words == "STOP") {
+    Global::remove_unfinished_saves();
     start->first_discovery();
     start->unload();
   }

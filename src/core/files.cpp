@@ -11,6 +11,7 @@
 #include "core/code_page.h"
 #include "core/system.h"
 #include "core/text.h"
+#include "core/unfinished_save.h"
 
 namespace ecr {
 namespace fs = std::filesystem;
@@ -191,6 +192,21 @@ std::vector<std::string> files_matching(std::string_view folder, std::string_vie
   }
   std::sort(names.begin(), names.end());
   return names;
+}
+
+std::vector<std::string> remove_unfinished_saves(std::string_view folder) {
+  std::vector<fs::path> left;
+  std::error_code error;
+  for (fs::directory_iterator entry{native_path(folder), error}, end; !error && entry != end; entry.increment(error)) {
+    std::error_code ignored;
+    const bool is_file = fs::is_regular_file(entry->symlink_status(ignored));
+    if (is_file && is_unfinished_save(bytes_of_name(entry->path().filename()))) left.push_back(entry->path());
+  }
+  std::vector<std::string> removed;
+  for (const fs::path& path : left) {
+    if (fs::remove(path, error)) removed.push_back(bytes_of_name(path.filename()));
+  }
+  return removed;
 }
 
 bool matches_pattern(std::string_view name, std::string_view pattern) {

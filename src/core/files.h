@@ -74,4 +74,8 @@ class FileReader {
 /// Whether a name matches such a pattern.
 [[nodiscard]] bool matches_pattern(std::string_view name, std::string_view pattern);
 
+/// Removes the files that saves which were cut off have left in `folder`, told by their names (is_unfinished_save).
+/// Answers the names of those that it removed. Links and folders of such a name stay.
+std::vector<std::string> remove_unfinished_saves(std::string_view folder);
+
 }  // namespace ecr

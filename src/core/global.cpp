@@ -4,6 +4,7 @@
 
 #include "core/files.h"
 #include "core/model.h"
+#include "core/run_log.h"
 
 namespace ecr::Global {
 
@@ -24,7 +25,6 @@ std::uint8_t EcrModel = model_z300;
 std::int16_t MaxPlu = 0;
 std::uint8_t FwLevel = 0;
 std::uint8_t DecimalPoint = 0;
-bool LogSkipOnce = false;
 std::string ProgramVersion;
 
 void set_folders(std::string_view application_folder) {
@@ -56,6 +56,16 @@ void crea_cartelle() {
   }
 }
 
+void remove_unfinished_saves() {
+  if (PathApp.empty()) return;
+  // The emulated register saves as well, in a folder of its own.
+  for (const std::string& folder : {PathApp, PathSetup, PathDati, PathReportDati, PathApp + "register\\"}) {
+    for (const std::string& name : ecr::remove_unfinished_saves(folder)) {
+      memo_log("Removed what a save that was cut off had left: " + name);
+    }
+  }
+}
+
 void reset() {
   for (std::string* text : {&PathApp, &PathLog, &PathSetup, &PathDriver, &PathDati, &PathHelp, &PathReportDati,
                             &PathReport, &PathFW, &PathModel, &ProgramVersion}) {
@@ -67,7 +77,6 @@ void reset() {
   MaxPlu = 0;
   FwLevel = 0;
   DecimalPoint = 0;
-  LogSkipOnce = false;
 }
 
 }  // namespace ecr::Global

@@ -26,7 +26,6 @@ extern std::uint8_t EcrModel;       ///< model_z300 or model_z320
 extern std::int16_t MaxPlu;         ///< 3000 on both models, set when a model is chosen
 extern std::uint8_t FwLevel;        ///< class of the linked firmware, see link/firmware.h
 extern std::uint8_t DecimalPoint;   ///< decimals of amounts, 0 to 3; written by take_decimal_point alone
-extern bool LogSkipOnce;            ///< the next line for the run log is dropped
 extern std::string ProgramVersion;  ///< "V. 1.0.0", set on the start screen
 
 inline constexpr std::uint8_t model_z300 = 0;
@@ -44,6 +43,10 @@ void choose_model(std::uint8_t model);
 /// Creates the folders that the program writes to where they are missing; a failure shows only later, when a file in
 /// the folder cannot be opened. The folders that must come with the installation are not created.
 void crea_cartelle();
+
+/// Removes what saves of an earlier run that were cut off have left in the folders in which the program saves, and logs
+/// the name of each.
+void remove_unfinished_saves();
 
 /// Everything as before the program's start, for tests.
 void reset();

@@ -28,10 +28,6 @@ bool telling_a_failure = false;
 }  // namespace
 
 void memo_log(std::string_view text) {
-  if (Global::LogSkipOnce) {
-    Global::LogSkipOnce = false;
-    return;
-  }
   const Moment moment = now();
   std::string line = date_text(moment);
   line.append(" ").append(time_text(moment)).append(" ").append(text);

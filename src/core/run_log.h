@@ -8,8 +8,8 @@
 
 namespace ecr {
 
-/// Appends one stamped line. Writes nothing, once, if Global::LogSkipOnce is set. Never fails towards the caller. While
-/// another process holds the log for itself the call waits, without a limit.
+/// Appends one stamped line. Never fails towards the caller. While another process holds the log for itself the call
+/// waits, without a limit.
 void memo_log(std::string_view text);
 
 /// The line that a routine leaves when it ends with a fault: its prefix and the fault's description.

@@ -31,6 +31,13 @@ class Library {
   [[nodiscard]] virtual void* symbol(const char* name) const = 0;
 };
 
+/// A new file that is to take the place of another one, or of none. Both texts are for the steps that follow, in the
+/// form in which the system layer keeps paths.
+struct FreshFile {
+  std::string path;    ///< where it lies now, beside `target`
+  std::string target;  ///< whose name it is to get; no link
+};
+
 class System {
  public:
   System() = default;
@@ -38,9 +45,21 @@ class System {
   System& operator=(const System&) = delete;
   virtual ~System() = default;
 
-  /// Writes `bytes` to a new file beside `path`, flushes it to the disk and renames it over `path`: whoever pulls the
-  /// plug finds the old file or the new one. `path` is a path of the host. On a fault the old file stands untouched.
-  [[nodiscard]] virtual Fault replace_file(const std::string& path, std::string_view bytes) = 0;
+  /// Makes the file `path`, a path of the host, hold exactly `bytes`, by the three steps below: whoever pulls the plug
+  /// finds the old file or the new one, and after the return the new one. On a fault the old file stands untouched;
+  /// only where the last step failed the new one stands already, and nobody knows whether it would outlive a power cut.
+  [[nodiscard]] virtual Fault replace_file(const std::string& path, std::string_view bytes);
+
+  /// Writes `bytes` to a new file beside `path`, under a name that is_unfinished_save knows, and flushes it to the
+  /// disk. A link is written through; a file that may not be written is left alone. On a fault no new file is left.
+  [[nodiscard]] virtual Fault write_beside(const std::string& path, std::string_view bytes, FreshFile& fresh) = 0;
+
+  /// Gives the new file the name of the old one, in one step. On a fault the new file is removed; file_not_found says
+  /// that somebody else had removed it.
+  [[nodiscard]] virtual Fault rename_over(const FreshFile& fresh) = 0;
+
+  /// Sees to it that the rename to `target` is on the disk, with the folder that holds the file.
+  [[nodiscard]] virtual Fault flush_folder_of(const std::string& target) = 0;
 
   /// Whether paths of the host, as 8-bit text, are UTF-8; otherwise they are of the fixed code page.
   [[nodiscard]] virtual bool paths_are_utf8() const { return true; }

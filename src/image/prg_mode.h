@@ -241,7 +241,8 @@ extern PrgModeImage PrgModeComparison;
 
 /// Reads PRG_MODE.BIN from PathDati into the working image, or into the comparison image. A missing file is created
 /// empty. A short file fills what it reaches and leaves the rest as it was. Answers whether the keypad test passed,
-/// which always looks at the working image; if it did not, a box has said so.
+/// which always looks at the working image; if it did not, a box has said so. A file that delivers nothing, because it
+/// is missing, empty or cannot be read, fails it, whatever stands in memory.
 bool Read_PrgMode(bool toComparison = false);
 
 /// Writes the working image over the head of PRG_MODE.BIN; what stands behind byte 5656 of the file stays. A failure

@@ -22,9 +22,12 @@ enum class OwnText : std::uint8_t {
   taking_in_items,
   sending_logo,
   converting_logo,
+  looking_for_ports,
   looking_for_register,
   asking_release,
   reading_report,
+  looking_on_port,  ///< %1: the port's number
+  go_on_without_port,
   // The start screen
   emulated_register,
   // The report screen and the viewer

@@ -84,8 +84,7 @@ void Read_Fw_State() {
 }
 
 bool Test_Connection(bool skipLog) {
-  Global::LogSkipOnce = skipLog;
-  return Global::ComPort != 0 && Receive_ReportEcr(FileNumber::time);
+  return Global::ComPort != 0 && Receive_ReportEcr(FileNumber::time, 0, skipLog);
 }
 
 void watch_banner(std::function<void(std::string_view)> watcher) {

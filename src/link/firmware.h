@@ -28,8 +28,8 @@ bool Get_Fw_Banner();
 /// Classes the firmware into Global::FwLevel. A register of another family ends the program after a message.
 void Read_Fw_State();
 
-/// Whether a register answers on Global::ComPort. With `skipLog` the next line for the run log is dropped, whichever it
-/// is.
+/// Whether a register answers on Global::ComPort. With `skipLog` a failure of this test stays out of the run log; what
+/// others log meanwhile does not.
 bool Test_Connection(bool skipLog = false);
 
 /// Who is told the banner when it was fetched; an empty function ends it.

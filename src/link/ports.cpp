@@ -26,6 +26,9 @@ void show_number(int number) {
 void show_colour(PortColour colour) {
   if (display.colour) display.colour(colour);
 }
+void show_test(const PortTest& test) {
+  if (display.test) display.test(test);
+}
 
 /// The port that a caption names, nothing if it names none: "USB Serial Port (COM4)" gives 4.
 std::optional<std::uint8_t> port_in(std::string_view caption) {
@@ -35,6 +38,23 @@ std::optional<std::uint8_t> port_in(std::string_view caption) {
   const Decimal number = Decimal::from_text(caption.substr(first, caption.size() - 1 - first));
   if (number.is_negative() || number > Decimal{255}) throw FaultError{FaultCode::overflow};
   return static_cast<std::uint8_t>(leading_number(number.text(0)));
+}
+
+/// The ports to walk, in the devices' order, and what ends the list before all captions were looked at.
+struct PortList {
+  std::vector<std::uint8_t> numbers;
+  Fault end;
+};
+PortList ports_in(const std::vector<std::string>& captions) {
+  PortList ports;
+  try {
+    for (const std::string& caption : captions) {
+      if (const std::optional<std::uint8_t> port = port_in(caption)) ports.numbers.push_back(*port);
+    }
+  } catch (const FaultError& error) {
+    ports.end = error.fault();
+  }
+  return ports;
 }
 
 void debug_log(std::uint8_t port, std::string_view outcome) {
@@ -74,31 +94,34 @@ std::vector<std::string> device_captions() {
   return captions;
 }
 
-bool Test_Com(bool skipLog, const std::function<bool()>& give_up) {
+bool Test_Com(bool skipLog, const std::function<bool()>& given_up) {
   const BackgroundCalls background;
   bool found = false;
+  const auto over = [&given_up] { return given_up && given_up(); };
   const auto walk = [&] {
     Global::ComPort = 0;
     show_number(0);
     std::vector<std::string> captions;
     // Some systems take their time over the list.
     shell().run_beside("Looking for serial ports", Waiting::background, [&] { captions = device_captions(); });
-    for (const std::string& caption : captions) {
-      const std::optional<std::uint8_t> port = port_in(caption);
-      if (!port) continue;
-      Global::ComPort = *port;
-      found = Test_Connection(skipLog);
+    const PortList ports = ports_in(captions);
+    int nth = 0;
+    for (const std::uint8_t port : ports.numbers) {
+      if (over()) return;
+      show_test({port, ++nth, static_cast<int>(ports.numbers.size())});
+      Global::ComPort = port;
+      found = Test_Connection(skipLog) && !over();
       if (found) {
-        show_number(*port);
+        show_number(port);
         show_colour(PortColour::green);
-        debug_log(*port, " OK");
+        debug_log(port, " OK");
         return;
       }
       show_colour(PortColour::red);
-      debug_log(*port, " KO");
+      debug_log(port, " KO");
       Global::ComPort = 0;
-      if (give_up && give_up()) return;
     }
+    if (ports.end.stands() && !over()) throw FaultError{ports.end};
   };
   if (skipLog) {
     try {

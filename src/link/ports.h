@@ -14,18 +14,26 @@ extern bool Os64Bit;
 
 enum class PortColour { red, green };
 
-/// Where the walk shows what it does: the number in the port field, and the colour of its text.
+/// The test that is on its way: on which port, and the how-manieth it is of those that the walk goes to at most.
+struct PortTest {
+  int port = 0;
+  int nth = 1;
+  int of = 1;
+};
+
+/// Where the walk shows what it does: the number in the port field, the colour of its text, and each test before it.
 struct PortDisplay {
-  std::function<void(int)> number;
-  std::function<void(PortColour)> colour;
+  std::function<void(int)> number = {};
+  std::function<void(PortColour)> colour = {};
+  std::function<void(const PortTest&)> test = {};
 };
 void show_ports_on(PortDisplay display);
 
 /// Walks the devices whose caption names a COM port and tests the connection on each; the first that answers becomes
 /// Global::ComPort. Answers whether one did. A caption whose number is none, or above 255, ends the walk. The screens
-/// stay open to input meanwhile. When `give_up` is set and answers true behind a test, the walk ends as if it were
-/// over.
-bool Test_Com(bool skipLog, const std::function<bool()>& give_up = {});
+/// stay open to input meanwhile. Once `given_up` answers true, which is asked before and after each test, the walk is
+/// over and no port was found, whatever the test on its way has answered.
+bool Test_Com(bool skipLog, const std::function<bool()>& given_up = {});
 
 /// Sets up the cable's driver with the tools in PathDriver. True where there is nothing to wait for, also where the
 /// tools do not apply to this system.

@@ -26,7 +26,7 @@ Fault displace_older(std::string_view report) {
 
 }  // namespace
 
-bool Receive_ReportEcr(std::uint8_t number, std::int32_t first_record) {
+bool Receive_ReportEcr(std::uint8_t number, std::int32_t first_record, bool skipLog) {
   const Report* report = report_numbered(number);
   if (report == nullptr) return false;
   const Fault pending = displace_older(report->name);
@@ -42,13 +42,18 @@ bool Receive_ReportEcr(std::uint8_t number, std::int32_t first_record) {
   }
 
   const bool delivered = answer == 1 && resultCode == ResultCode::done;
+  const bool timed_out = answer == 1 && !report->range && resultCode == ResultCode::timeout;
+  if (skipLog) {
+    if (timed_out) Process_Kill(exchange_tool);
+    return delivered;
+  }
   if (answer != 1) {
     memo_log("Receive_ReportEcr error using regwire");
   } else if (!delivered) {
     memo_log("Receive_ReportEcr error. File " + std::to_string(number) + " Code: " + hex_text(resultCode) +
              " Desc: " + std::string{NumToDesc_RegWire(resultCode)});
-    if (!report->range && resultCode == ResultCode::timeout) Process_Kill(exchange_tool);
   }
+  if (timed_out) Process_Kill(exchange_tool);
   if (pending.stands()) log_fault("Receive_ReportEcr " + std::to_string(number) + ": ", pending);
   return delivered;
 }

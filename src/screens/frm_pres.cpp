@@ -18,6 +18,7 @@
 #include "widgets/help.h"
 #include "widgets/look.h"
 #include "widgets/screen_text.h"
+#include "widgets/wait_panel.h"
 
 namespace ecr {
 namespace {
@@ -115,8 +116,9 @@ FrmPres::FrmPres()
   Timer_TestCom->setInterval(timer_interval_ms);
   Timer_TestCom->setSingleShot(true);
   connect(Timer_TestCom, &QTimer::timeout, this, [this] { timer_tick(); });
-  show_ports_on(
-      {[this](int port_number) { show_number(port_number); }, [this](PortColour colour) { show_colour(colour); }});
+  show_ports_on({[this](int port_number) { show_number(port_number); },
+                 [this](PortColour colour) { show_colour(colour); },
+                 [this](const PortTest& test) { show_test(test); }});
 }
 
 void FrmPres::load() {
@@ -134,11 +136,12 @@ void FrmPres::load() {
 }
 
 void FrmPres::first_discovery() {
-  if (!discover(false)) {
-    Timer_TestCom->start();
-    if (Install_Driver(true)) Aspetta(0.2);
-  }
+  const bool found = discover(false);
+  if (!found) Timer_TestCom->start();
+  // Whoever waits for the search does not wait for the driver too, and who gave it up knows why no port was found.
+  const bool all_were_asked = !given_up_;
   open_waiting_model();
+  if (!found && all_were_asked && Install_Driver(true)) Aspetta(0.2);
 }
 
 void FrmPres::carica_messaggi() {
@@ -158,7 +161,9 @@ QWidget* FrmPres::first_focus() {
 
 bool FrmPres::discover(bool skipLog) {
   discovering_ = true;
-  const bool found = Test_Com(skipLog, [this] { return waiting_model_.has_value(); });
+  given_up_ = false;
+  test_.reset();
+  const bool found = Test_Com(skipLog, [this] { return given_up_; });
   discovering_ = false;
   return found;
 }
@@ -174,20 +179,27 @@ void FrmPres::timer_tick() {
 }
 
 void FrmPres::model_clicked(std::uint8_t model) {
-  // What is opened needs the link, which takes one call at a time: the test on its way is waited for.
-  if (discovering_ && !waiting_model_) shell().pointer(Pointer::busy);
   waiting_model_ = model;
-  if (!discovering_) {
-    shell().pointer(Pointer::busy);
+  // What is opened needs the link, which takes one call at a time, and the port that the search may find.
+  if (discovering_) {
+    show_wait();
+  } else {
     open_waiting_model();
   }
 }
 
+void FrmPres::show_wait() {
+  if (wait_ != nullptr) return;
+  wait_ = new WaitPanel{*window(), own_words(OwnText::looking_for_ports), 0};
+  wait_->let_give_up(own_words(OwnText::go_on_without_port), [this] { given_up_ = true; });
+  if (test_) show_test(*test_);
+}
+
 void FrmPres::open_waiting_model() {
+  delete wait_.data();
   if (!waiting_model_) return;
   Global::choose_model(*waiting_model_);
   waiting_model_.reset();
-  shell().pointer(Pointer::normal);
   open(new FrmPrincipale{E_ComPort->text()});
 }
 
@@ -199,6 +211,11 @@ void FrmPres::show_colour(PortColour colour) {
   QPalette palette = E_ComPort->palette();
   palette.setColor(QPalette::Text, colour == PortColour::green ? text_green() : text_red());
   E_ComPort->setPalette(palette);
+}
+
+void FrmPres::show_test(const PortTest& test) {
+  test_ = test;
+  if (wait_ != nullptr) wait_->show_step(own_words(OwnText::looking_on_port).arg(test.port), test.nth, test.of);
 }
 
 void FrmPres::show_linked_register() {

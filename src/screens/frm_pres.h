@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <optional>
 
+#include <QPointer>
 #include <QTimer>
 
 #include "link/ports.h"
@@ -17,6 +18,8 @@
 class QGroupBox;
 
 namespace ecr {
+
+class WaitPanel;
 
 class FrmPres : public Screen {
   Q_OBJECT
@@ -34,13 +37,16 @@ class FrmPres : public Screen {
   void first_discovery();
 
  private:
-  /// Runs Test_Com; a model that was asked for meanwhile is opened behind it.
+  /// Runs Test_Com to its end, or until the person who waits for it gives it up. Answers whether a port was found.
   bool discover(bool skipLog);
   void timer_tick();
   void model_clicked(std::uint8_t model);
+  /// The card that tells how far the search is, from which it can be given up.
+  void show_wait();
   void open_waiting_model();
   void show_number(int port);
   void show_colour(PortColour colour);
+  void show_test(const PortTest& test);
   void show_linked_register();
 
   QGroupBox* F_Titolo;
@@ -59,7 +65,12 @@ class FrmPres : public Screen {
   QTimer* Timer_TestCom;
   Captions captions_;
   bool discovering_ = false;
+  bool given_up_ = false;
+  /// The test on its way; none while the devices are listed.
+  std::optional<PortTest> test_;
+  /// A model that was clicked during a search, and the card that is up meanwhile.
   std::optional<std::uint8_t> waiting_model_;
+  QPointer<WaitPanel> wait_;
 };
 
 }  // namespace ecr

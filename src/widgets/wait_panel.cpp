@@ -2,14 +2,17 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include <QApplication>
 #include <QEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QProgressBar>
 #include <QVBoxLayout>
 
+#include "widgets/controls.h"
 #include "widgets/screen_text.h"
 
 namespace ecr {
@@ -77,11 +80,7 @@ WaitPanel::WaitPanel(QWidget& window, const QString& what, double seconds) : QWi
   bar_->setRange(0, seconds > 0 ? static_cast<int>(seconds * 1000) : 0);
   int shown_after = shown_after_ms;
   if (const WaitSteps* steps = current_steps; steps != nullptr && seconds <= 0) {
-    if (!steps->what_.isEmpty()) what_->setText(steps->what_);
-    bar_->setRange(0, steps->steps_);
-    bar_->setValue(steps->begun_ - 1);
-    rest_->setText(own_words(OwnText::one_of_several).arg(steps->begun_).arg(steps->steps_));
-    rest_->setVisible(true);
+    show_step(steps->what_.isEmpty() ? what : steps->what_, steps->begun_, steps->steps_);
     shown_after = static_cast<int>(std::max<qint64>(0, shown_after_ms - steps->elapsed_.elapsed()));
   }
   auto* inside = new QVBoxLayout{card};
@@ -100,6 +99,7 @@ WaitPanel::WaitPanel(QWidget& window, const QString& what, double seconds) : QWi
     show_progress();
     show();
     raise();
+    if (give_up_ != nullptr) give_up_->setFocus();
   });
   QCoreApplication::instance()->installEventFilter(this);
 }
@@ -108,12 +108,58 @@ WaitPanel::~WaitPanel() {
   QCoreApplication::instance()->removeEventFilter(this);
 }
 
+void WaitPanel::show_step(const QString& what, int nth, int of) {
+  what_->setText(what);
+  bar_->setRange(0, of);
+  bar_->setValue(nth - 1);
+  rest_->setText(own_words(OwnText::one_of_several).arg(nth).arg(of));
+  rest_->setVisible(true);
+}
+
+void WaitPanel::let_give_up(const QString& words, std::function<void()> given_up) {
+  given_up_ = std::move(given_up);
+  give_up_ = new CommandButton{QStringLiteral("C_GiveUp"), what_->parentWidget()};
+  give_up_->setText(words);
+  give_up_->on_click([this] { give_up(); });
+  qobject_cast<QVBoxLayout*>(what_->parentWidget()->layout())->addWidget(give_up_, 0, Qt::AlignCenter);
+}
+
+void WaitPanel::give_up() {
+  if (give_up_ == nullptr || !give_up_->isEnabled()) return;
+  give_up_->setEnabled(false);
+  given_up_();
+}
+
+bool WaitPanel::is_let_in(const QObject* watched, const QEvent& event) const {
+  if (give_up_ == nullptr) return false;
+  if (event.type() == QEvent::Close) return true;
+  // A key that is still held down, from the press that began the wait, is not meant for the card.
+  if (event.type() == QEvent::KeyPress && static_cast<const QKeyEvent&>(event).isAutoRepeat()) return false;
+  // A window hands its input on to its widgets, where it comes by here again.
+  if (watched->isWindowType()) return true;
+  const auto* widget = qobject_cast<const QWidget*>(watched);
+  return widget != nullptr && (widget == this || isAncestorOf(widget));
+}
+
 bool WaitPanel::eventFilter(QObject* watched, QEvent* event) {
   if (watched == parentWidget() && event->type() == QEvent::Resize) setGeometry(parentWidget()->rect());
-  if (!is_input(*event)) return QWidget::eventFilter(watched, event);
+  if (!is_input(*event) || is_let_in(watched, *event)) return QWidget::eventFilter(watched, event);
   // A window whose close box is pressed stays.
   if (event->type() == QEvent::Close) event->ignore();
   return true;
+}
+
+bool WaitPanel::focusNextPrevChild(bool) {
+  // The keyboard stays on the card.
+  return true;
+}
+
+void WaitPanel::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape) {
+    give_up();
+  } else {
+    QWidget::keyPressEvent(event);
+  }
 }
 
 void WaitPanel::paintEvent(QPaintEvent*) {

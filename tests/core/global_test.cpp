@@ -82,13 +82,12 @@ TEST_F(GlobalState, IsAsBeforeTheStartAfterAReset) {
   Global::ComPort = 4;
   Global::FwLevel = 2;
   Global::DecimalPoint = 2;
-  Global::LogSkipOnce = true;
   Global::ProgramVersion = "V. 1.0.0";
   Global::reset();
   EXPECT_EQ(Global::PathApp + Global::PathLog + Global::PathSetup + Global::PathDriver + Global::PathDati, "");
   EXPECT_EQ(Global::PathHelp + Global::PathReportDati + Global::PathReport + Global::PathFW + Global::PathModel, "");
   EXPECT_EQ(Global::ProgramVersion, "");
-  EXPECT_FALSE(Global::DebugMode || Global::LogSkipOnce);
+  EXPECT_FALSE(Global::DebugMode);
   EXPECT_EQ(Global::ComPort + Global::EcrModel + Global::MaxPlu + Global::FwLevel + Global::DecimalPoint, 0);
 }
 

@@ -3,17 +3,42 @@
 #include <algorithm>
 #include <fcntl.h>
 #include <filesystem>
+#include <fstream>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <string>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
+#include <system_error>
 #include <unistd.h>
 #include <vector>
 
+#include "core/unfinished_save.h"
 #include "platform/platform.h"
 #include "support/installation.h"
 #include "support/random.h"
 #include "support/unprivileged_linux.h"
+
+namespace {
+
+/// The path behind each descriptor that was flushed, in order, with a bar and what the watched file held then.
+std::vector<std::string>* flushed = nullptr;
+std::string watched_file;
+
+}  // namespace
+
+/// Takes the place of the C library's own: what a flush does to a disk cannot be seen, when it comes can.
+extern "C" int fsync(int descriptor) {
+  if (flushed != nullptr) {
+    std::error_code ignored;
+    std::ifstream file{watched_file, std::ios::binary};
+    flushed->push_back(
+        std::filesystem::read_symlink("/proc/self/fd/" + std::to_string(descriptor), ignored).filename().string() +
+        "|" + std::string{std::istreambuf_iterator<char>{file}, std::istreambuf_iterator<char>{}});
+  }
+  return static_cast<int>(::syscall(SYS_fsync, descriptor));
+}
 
 namespace ecr::test {
 namespace {
@@ -69,6 +94,34 @@ TEST_F(HostFiles, BytesOfEveryKindAndLengthArriveUnchanged) {
     EXPECT_FALSE(replace("x/file", content).stands());
     EXPECT_EQ(bytes("x/file"), content) << length;
   }
+}
+
+TEST_F(HostFiles, TheNewFileIsFlushedBeforeTheRenameAndTheFolderBehindIt) {
+  make_folder("x");
+  make_folder("y");
+  write("y/target", "old");
+  fs::create_symlink(host("y/target"), host("x/link"));
+  std::vector<std::string> flushes;
+  flushed = &flushes;
+  watched_file = host("y/target");
+  EXPECT_FALSE(replace("x/link", "new").stands());
+  flushed = nullptr;
+  ASSERT_EQ(flushes.size(), 2U);
+  EXPECT_TRUE(flushes[0].starts_with("target.")) << flushes[0];
+  EXPECT_TRUE(is_unfinished_save(flushes[0].substr(0, flushes[0].find('|')))) << flushes[0];
+  EXPECT_TRUE(flushes[0].ends_with("|old")) << flushes[0];
+  EXPECT_EQ(flushes[1], "y|new") << "the folder of the file itself, not that of the link";
+}
+
+TEST_F(HostFiles, AFileInAFolderThatCannotBeListedIsSavedAllTheSame) {
+  make_folder("x");
+  fs::permissions(host("x"), static_cast<fs::perms>(0333));
+  {
+    const Unprivileged nobody;
+    EXPECT_FALSE(replace("x/file", "new").stands());
+  }
+  fs::permissions(host("x"), static_cast<fs::perms>(0755));
+  EXPECT_EQ(bytes("x/file"), "new");
 }
 
 TEST_F(HostFiles, AFreshFileHasTheModeThatTheProcessGivesItsFiles) {

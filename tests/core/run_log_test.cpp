@@ -46,15 +46,6 @@ TEST_F(RunLog, TheFileIsOnlyEverAppendedTo) {
       << "one file, whatever the date";
 }
 
-TEST_F(RunLog, ASkippedLineIsNotWrittenAndTheNextOneIs) {
-  Global::LogSkipOnce = true;
-  memo_log("dropped");
-  EXPECT_FALSE(Global::LogSkipOnce);
-  EXPECT_FALSE(exists("Log/memo_log.txt"));
-  memo_log("written");
-  EXPECT_EQ(log(), Lines{"written"});
-}
-
 TEST_F(RunLog, AnEmptyTextIsALineToo) {
   memo_log("");
   EXPECT_EQ(bytes("Log/memo_log.txt"), std::string{"20-11-26 12:00:00 "} + line_end);
@@ -130,10 +121,6 @@ TEST_F(RunLog, ALowLevelLineHasNoStamp) {
   scrivi_file(Global::PathLog + "other.txt", "bare");
   scrivi_file(Global::PathLog + "other.txt", "lines");
   EXPECT_EQ(bytes("Log/other.txt"), std::string{"bare"} + line_end + "lines" + line_end);
-  Global::LogSkipOnce = true;
-  scrivi_file(Global::PathLog + "other.txt", "not skipped");
-  EXPECT_TRUE(Global::LogSkipOnce);
-  EXPECT_TRUE(bytes("Log/other.txt").ends_with(std::string{"not skipped"} + line_end));
 }
 
 TEST_F(RunLog, AFaultIsLoggedBehindItsPrefix) {

@@ -63,7 +63,9 @@ class SystemThatCannotWrite final : public System {
   explicit SystemThatCannotWrite(FaultCode code) : code_{code}, before_{install_system(this)} {}
   ~SystemThatCannotWrite() override { install_system(before_); }
 
-  Fault replace_file(const std::string&, std::string_view) override { return {code_}; }
+  Fault write_beside(const std::string&, std::string_view, FreshFile&) override { return {code_}; }
+  Fault rename_over(const FreshFile&) override { return {code_}; }
+  Fault flush_folder_of(const std::string&) override { return {code_}; }
   Fault append_file(const std::string&, std::string_view) override { return {code_}; }
   std::vector<ProcessEntry> processes() override { return host_system().processes(); }
   bool end_process(std::uint64_t) override { return false; }

@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <functional>
 #include <gtest/gtest.h>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/catalogue.h"
@@ -314,8 +316,8 @@ TEST_F(ProgrammingImage, AWriteOverAShorterFileMakesItWhole) {
 
 TEST_F(ProgrammingImage, AFileOfAnyLengthFillsWhatItReachesAndLeavesTheRest) {
   Random random{81003};
-  for (const std::size_t length : {0U, 1U, 20U, 21U, 38U, 328U, 329U, 340U, 2506U, 3136U, 5566U, 5567U, 5600U, 5655U,
-                                   5656U, 5657U, 6000U, 100000U}) {
+  for (const std::size_t length :
+       {1U, 20U, 21U, 38U, 328U, 329U, 340U, 2506U, 3136U, 5566U, 5567U, 5600U, 5655U, 5656U, 5657U, 6000U, 100000U}) {
     SCOPED_TRACE(length);
     const std::string before = with_keypad(random.bytes(file_size));
     fill(PrgMode, before);
@@ -350,13 +352,31 @@ TEST_F(ProgrammingImage, AMissingFileIsCreatedEmptyAndTurnedAway) {
   EXPECT_TRUE(log().empty());
 }
 
-TEST_F(ProgrammingImage, AMissingFilePassesWithAnImageInMemoryThatDoes) {
-  // The keypad test looks at memory, which a file without bytes leaves as it was.
+TEST_F(ProgrammingImage, AFileThatDeliversNothingIsTurnedAwayAlsoWithAGoodImageInMemory) {
+  set_message(Key::FRM_ALL_WRONG_ECR, "Wrong register");
   const std::string before = with_keypad(std::string(file_size, 'm'));
   fill(PrgMode, before);
-  EXPECT_TRUE(Read_PrgMode());
-  EXPECT_EQ(bytes_of_image(PrgMode), before);
-  EXPECT_EQ(bytes(file), "");
+  fill(PrgModeComparison, before);
+  const std::pair<const char*, std::function<void()>> ways[] = {
+      {"missing", [this] { remove(file); }},
+      {"empty, as the read of a missing file leaves it", [this] { write(file, ""); }},
+      {"a folder",
+       [this] {
+         remove(file);
+         make_folder(file);
+       }},
+      {"missing with its folder", [this] { remove("Dati"); }},
+  };
+  for (const auto& [way, lay_down] : ways) {
+    SCOPED_TRACE(way);
+    for (const bool to_comparison : {false, true}) {
+      lay_down();
+      shell.expect_box(BoxKind::plain, "Wrong register");
+      EXPECT_FALSE(Read_PrgMode(to_comparison));
+    }
+    EXPECT_EQ(bytes_of_image(PrgMode), before) << "what was read earlier stays in memory until the next read";
+    EXPECT_EQ(bytes_of_image(PrgModeComparison), before);
+  }
 }
 
 TEST_F(ProgrammingImage, AFolderInPlaceOfTheFileDeliversNothing) {

@@ -1,11 +1,13 @@
 #include "link/firmware.h"
 
 #include <gtest/gtest.h>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "core/catalogue.h"
 #include "core/global.h"
+#include "core/run_log.h"
 #include "support/fake_system.h"
 #include "support/installation.h"
 #include "support/random.h"
@@ -255,36 +257,53 @@ TEST_F(Firmware, WithoutAPortThereIsNoConnection) {
 }
 
 TEST_F(Firmware, ATestWithoutArgumentDoesNotSkipTheLog) {
-  Global::LogSkipOnce = true;
   link().answers[12] = {1, 1025};
   EXPECT_FALSE(Test_Connection());
-  EXPECT_EQ(log().size(), 1U);
+  EXPECT_EQ(log(), Lines{"Receive_ReportEcr error. File 12 Code: 401 Desc: The USB-COM port cannot be opened."});
+  link().answers[12] = {0, 0};
+  EXPECT_FALSE(Test_Connection(false));
+  EXPECT_EQ(log().back(), "Receive_ReportEcr error using regwire");
 }
 
-TEST_F(Firmware, ATestThatSkipsTheLogSwallowsTheNextLineWhicheverItIs) {
-  link().answers[12] = {1, 1025};
-  EXPECT_FALSE(Test_Connection(true));
-  EXPECT_TRUE(log().empty()) << "its own failure line was the next";
-  EXPECT_FALSE(Global::LogSkipOnce);
-
-  link().be_a_register();
-  link().answers.clear();
-  EXPECT_TRUE(Test_Connection(true));
-  EXPECT_TRUE(Global::LogSkipOnce) << "a good test writes no line, so the next one of anybody is swallowed";
-  link().answers[22] = {1, 4097};
-  EXPECT_FALSE(Get_Release());
+TEST_F(Firmware, ATestThatSkipsTheLogKeepsItsOwnFailureOutOfIt) {
+  for (const LinkAnswer& answer : {LinkAnswer{1, 1025}, {1, 9999}, {0, 0}}) {
+    link().answers[12] = answer;
+    EXPECT_FALSE(Test_Connection(true));
+  }
   EXPECT_TRUE(log().empty());
-  EXPECT_FALSE(Get_Release());
-  EXPECT_EQ(log().size(), 1U);
 }
 
-TEST_F(Firmware, ATestWithoutAPortSetsTheSkipFlagToo) {
+TEST_F(Firmware, ATestThatSkipsTheLogDropsNoLineOfOthers) {
+  for (const LinkAnswer& answer : {LinkAnswer{1, 1025}, {0, 0}, {1, 0}}) {
+    remove("Log/memo_log.txt");
+    link().be_a_register();
+    link().answers[12] = answer;
+    // Somebody ends the program, or chooses another language, while the test is on its way.
+    link().after_call = [] { memo_log("during the test"); };
+    static_cast<void>(Test_Connection(true));
+    link().after_call = {};
+    memo_log("after the test");
+    EXPECT_EQ(log(), (Lines{"during the test", "after the test"}));
+  }
+}
+
+TEST_F(Firmware, ATestWithoutAPortDropsNoLineEither) {
   Global::ComPort = 0;
   link();
   EXPECT_FALSE(Test_Connection(true));
-  EXPECT_TRUE(Global::LogSkipOnce);
-  EXPECT_FALSE(Test_Connection(false));
-  EXPECT_FALSE(Global::LogSkipOnce);
+  memo_log("after the test");
+  EXPECT_EQ(log(), Lines{"after the test"});
+}
+
+TEST_F(Firmware, ALibraryThatCannotBeLoadedIsToldAlsoByATestThatSkipsTheLog) {
+  system.on_load = [](const std::string&, std::string& why) {
+    why = "it is not there";
+    return std::unique_ptr<Library>{};
+  };
+  EXPECT_FALSE(Test_Connection(true));
+  const std::string name{system.link_library_name()};
+  EXPECT_EQ(log(), Lines{"Link library " + name + " not loaded: it is not there"})
+      << "the test's own failure stays out, the library's does not";
 }
 
 }  // namespace

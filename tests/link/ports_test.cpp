@@ -169,36 +169,79 @@ TEST_F(PortWalk, EachTestIsLoggedInDebugMode) {
                           "Test COM 3 KO", "Test COM 4 OK"}));
 }
 
-TEST_F(PortWalk, AWalkThatSkipsTheLogSwallowsTheNextLineOfEachTest) {
+TEST_F(PortWalk, AWalkThatSkipsTheLogTellsOfEachTestInDebugModeAllTheSame) {
   Global::DebugMode = true;
   devices({"Adapter (COM3)", "Register (COM4)"});
   register_on(4);
   EXPECT_TRUE(Test_Com(true));
-  EXPECT_EQ(log(), Lines{"Test COM 3 KO"}) << "the failure of port 3, and the good line of port 4";
-  Global::DebugMode = false;
-  EXPECT_TRUE(Test_Com(true));
   memo_log("some line of somebody");
-  EXPECT_EQ(log(), Lines{"Test COM 3 KO"}) << "a good test leaves the flag to the next line, whichever it is";
-  memo_log("the line behind it");
-  EXPECT_EQ(log().back(), "the line behind it");
+  EXPECT_EQ(log(), (Lines{"Test COM 3 KO", "Test COM 4 OK", "some line of somebody"}))
+      << "only the failures themselves stay out of the log";
 }
 
-TEST_F(PortWalk, AsksWhetherToGiveUpBehindEachFailedTest) {
+TEST_F(PortWalk, GoesToItsEndOrToTheFirstPortThatAnswersUnlessItIsGivenUp) {
+  devices({"Built-in (COM2)", "Adapter (COM5)", "Register (COM3)"});
+  register_on(3);
+  EXPECT_TRUE(Test_Com(false, [] { return false; }));
+  EXPECT_EQ(Global::ComPort, 3);
+  EXPECT_EQ(pinged(), (Lines{"2", "5", "3"}));
+}
+
+TEST_F(PortWalk, GivenUpBeforeTheFirstTestAsksNothing) {
+  devices({"Register (COM4)"});
+  EXPECT_FALSE(Test_Com(false, [] { return true; }));
+  EXPECT_EQ(Global::ComPort, 0);
+  EXPECT_EQ(pinged(), Lines{});
+  EXPECT_EQ(shown, Lines{"0"});
+}
+
+TEST_F(PortWalk, GivenUpDuringATestTriesNoOtherPort) {
   devices({"Adapter (COM3)", "Adapter (COM5)", "Register (COM4)"});
   register_on(4);
-  int asked = 0;
-  EXPECT_FALSE(Test_Com(false, [&asked] { return ++asked == 2; }));
-  EXPECT_EQ(asked, 2);
+  bool given_up = false;
+  link().after_call = [&] { given_up = link().calls.size() == 2; };
+  EXPECT_FALSE(Test_Com(false, [&given_up] { return given_up; }));
   EXPECT_EQ(pinged(), (Lines{"3", "5"}));
   EXPECT_EQ(Global::ComPort, 0);
   EXPECT_EQ(shown, (Lines{"0", "red", "red"}));
+}
 
+TEST_F(PortWalk, GivenUpMeansNoPortAlsoWhenTheTestOnItsWayAnswers) {
+  Global::DebugMode = true;
+  devices({"Register (COM4)", "Another (COM5)"});
+  bool given_up = false;
+  link().after_call = [&given_up] { given_up = true; };
+  EXPECT_FALSE(Test_Com(false, [&given_up] { return given_up; }));
+  EXPECT_EQ(Global::ComPort, 0);
+  EXPECT_EQ(shown, (Lines{"0", "red"}));
+  EXPECT_EQ(pinged(), Lines{"4"});
+  EXPECT_EQ(log(), Lines{"Test COM 4 KO"});
+}
+
+TEST_F(PortWalk, GivenUpDoesNotTellOfABadNumberFurtherDown) {
+  devices({"Adapter (COM3)", "Modem (COMx)"});
+  bool given_up = false;
+  link().after_call = [&given_up] { given_up = true; };
+  EXPECT_FALSE(Test_Com(false, [&given_up] { return given_up; }));
+  EXPECT_EQ(log(), Lines{});
+}
+
+TEST_F(PortWalk, EachTestIsToldBeforeItBegins) {
+  Lines told;
+  show_ports_on({{}, {}, [&](const PortTest& test) {
+                   told.push_back(std::to_string(test.port) + " " + std::to_string(test.nth) + " of " +
+                                  std::to_string(test.of) + ", calls " + std::to_string(link().calls.size()));
+                 }});
+  devices({"Adapter (COM3)", "Keyboard", "Adapter (COM5)", "Register (COM4)", "Another (COM9)"});
+  register_on(4);
+  EXPECT_TRUE(Test_Com(false));
+  EXPECT_EQ(told, (Lines{"3 1 of 4, calls 0", "5 2 of 4, calls 1", "4 3 of 4, calls 2"}));
+
+  told.clear();
   link().calls.clear();
-  EXPECT_TRUE(Test_Com(false, [] { return false; }));
-  EXPECT_EQ(Global::ComPort, 4);
-
-  devices({"Register (COM4)"});
-  EXPECT_TRUE(Test_Com(false, [] { return true; })) << "a port that answered is not given up";
+  devices({"Adapter (COM3)", "Modem (COMx)", "Register (COM4)"});
+  EXPECT_FALSE(Test_Com(false));
+  EXPECT_EQ(told, Lines{"3 1 of 1, calls 0"}) << "the walk does not come to what stands behind a bad number";
 }
 
 TEST_F(PortWalk, LeavesTheScreensOpenToInput) {

@@ -226,5 +226,22 @@ TEST_F(ReportFetch, WithoutADataFolderTheFetchIsStillMade) {
   EXPECT_EQ(link().calls, Lines{fetch_call(12, 2)});
 }
 
+TEST_F(ReportFetch, AFetchThatSkipsTheLogTellsOfNothingThatWentWrong) {
+  write("Dati/TIME.bin", "older");
+  remove("Dati/Report");
+  write("Dati/Report", "a file in place of the folder");
+  for (const LinkAnswer& answer : {LinkAnswer{1, 0}, {1, 1025}, {1, 9999}, {0, 0}}) {
+    write("Dati/TIME.bin", "older");
+    link().answer = answer;
+    system.ended.clear();
+    EXPECT_EQ(Receive_ReportEcr(12, true), answer.returned == 1 && answer.result_code == 0);
+    EXPECT_EQ(system.ended.size(), answer.result_code == 9999 ? 1U : 0U) << "the hanging tool is ended as ever";
+    system.running = {{51, "regwire.exe"}};
+  }
+  EXPECT_TRUE(log().empty());
+  EXPECT_FALSE(Receive_ReportEcr(12));
+  EXPECT_EQ(log().front(), "Receive_ReportEcr error using regwire");
+}
+
 }  // namespace
 }  // namespace ecr::test

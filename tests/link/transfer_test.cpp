@@ -357,6 +357,7 @@ TEST_F(Merge, TheResultOfAnUploadThatWasMadeIsNotLookedAt) {
     if (fake.calls.back() == read_image) fake.answers[0] = {1, 0};
   };
   fill_image(PrgModeComparison, std::string(image_size, 'c'));
+  shell.expect_box(BoxKind::plain, "Wrong register");
   EXPECT_TRUE(Send_PrgModeToEcr(false, false));
   EXPECT_TRUE(log().empty());
   std::string expected = working_image_;
@@ -372,6 +373,7 @@ TEST_F(Merge, AReturnValueOtherThan0And1CountsAsAnUploadThatWasMade) {
   fake.after_call = [&fake] {
     if (fake.calls.back() == read_image) fake.answers[0] = {1, 0};
   };
+  shell.expect_box(BoxKind::plain, "Wrong register");
   EXPECT_TRUE(Send_PrgModeToEcr(false, false));
   EXPECT_TRUE(log().empty());
 }

@@ -1,7 +1,9 @@
 // Checks the system layer on a running system. Each sentence that does not hold is written out; the exit code tells
 // whether there was one. The program starts itself a second time, to have a process that it may look at and end.
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <exception>
@@ -13,6 +15,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/unfinished_save.h"
 #include "platform/platform.h"
 #include "platform/windows/com_pointer.h"
 #include "platform/windows/wide_text.h"
@@ -100,6 +103,11 @@ class Folder {
   [[nodiscard]] std::size_t files() const {
     return static_cast<std::size_t>(std::distance(fs::directory_iterator{path_}, fs::directory_iterator{}));
   }
+  [[nodiscard]] std::ptrdiff_t files_that(bool (*has_such_a_name)(std::string_view)) const {
+    return std::count_if(
+        fs::directory_iterator{path_}, fs::directory_iterator{},
+        [=](const fs::directory_entry& entry) { return has_such_a_name(narrow(entry.path().filename().wstring())); });
+  }
   /// A handle to a file that exists, shared with others in this way.
   [[nodiscard]] WindowsHandle held(std::string_view name, DWORD access, DWORD share) const {
     return WindowsHandle{
@@ -139,6 +147,15 @@ void check_replacing(const Folder& folder) {
   check(system.replace_file(folder.path("below"), "x").code == FaultCode::path_access,
         "a folder is no file to replace");
   check(system.replace_file(folder.path("a*b"), "x").code == FaultCode::bad_file_name, "a star makes a bad file name");
+
+  FreshFile fresh;
+  check(!system.write_beside(path, "half", fresh).stands() && folder.bytes("image.bin").empty(),
+        "a save that is cut off before its rename leaves the old file");
+  check(folder.files_that(is_unfinished_save) == 1, "what it leaves has the name of an unfinished save");
+  check(!system.rename_over(fresh).stands() && folder.bytes("image.bin") == "half", "the rename ends the save");
+  check(folder.files_that(is_unfinished_save) == 0, "and leaves nothing beside the file");
+  check(system.rename_over(fresh).code == FaultCode::file_not_found, "a new file that is gone is told as such");
+  check(!system.flush_folder_of(fresh.target).stands(), "the folder needs no flush of its own");
 
   folder.write("hidden.bin", "old");
   const std::wstring hidden = folder.wide_path(L"hidden.bin");

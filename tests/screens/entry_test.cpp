@@ -110,6 +110,24 @@ TEST_F(EntryTest, TheFirstDiscoveryRunsOnce) {
   EXPECT_EQ(link().calls.size(), 1U);
 }
 
+TEST_F(EntryTest, WhatASaveThatWasCutOffHasLeftIsGoneBehindTheStart) {
+  system.captions = {"USB Serial Port (COM4)"};
+  write("Dati/PRG_MODE.BIN.K4W4Se", "half");
+  write("Dati/PRG_MODE.BIN.backup", "the owner's");
+  start_with("");
+  work_until([this] { return !link().calls.empty(); });
+  EXPECT_FALSE(exists("Dati/PRG_MODE.BIN.K4W4Se"));
+  EXPECT_TRUE(exists("Dati/PRG_MODE.BIN.backup"));
+  EXPECT_EQ(log_behind_start(), Lines{"Removed what a save that was cut off had left: PRG_MODE.BIN.K4W4Se"});
+}
+
+TEST_F(EntryTest, StopClearsAwayWhatASaveHasLeftToo) {
+  write("port.ini.K4W4Se", "half");
+  stage.hide();
+  expect_program_ends([&] { start_with("STOP"); });
+  EXPECT_FALSE(exists("port.ini.K4W4Se"));
+}
+
 TEST_F(EntryTest, StopDoesThePortAndDriverStepsAndEnds) {
   for (const char* word : {"STOP", "stop"}) {
     remove("Log/memo_log.txt");

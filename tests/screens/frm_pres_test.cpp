@@ -2,12 +2,19 @@
 
 #include <atomic>
 #include <chrono>
+#include <functional>
 #include <future>
 #include <gtest/gtest.h>
+#include <stdexcept>
+#include <utility>
 
 #include <QApplication>
+#include <QKeyEvent>
+#include <QProgressBar>
+#include <QTest>
 
 #include "core/catalogue.h"
+#include "image/side_files.h"
 #include "lang/language.h"
 #include "screens/start_screen.h"
 #include "widgets/look.h"
@@ -16,9 +23,34 @@
 namespace ecr::test {
 namespace {
 
-using FrmPresTest = StartScreenTest;
 using Lines = std::vector<std::string>;
 
+class FrmPresTest : public StartScreenTest {
+ protected:
+  /// The card of the wait for the search, shown or about to be; nullptr where nobody waits.
+  [[nodiscard]] QWidget* wait_panel() const {
+    return stage.findChild<QWidget*>(QStringLiteral("WaitPanel"), Qt::FindDirectChildrenOnly);
+  }
+  [[nodiscard]] CommandButton& give_up_button() const {
+    if (wait_panel() == nullptr) throw std::runtime_error{"nobody waits for the search"};
+    return *wait_panel()->findChild<CommandButton*>(QStringLiteral("C_GiveUp"));
+  }
+  [[nodiscard]] std::string wait_words() const {
+    const auto text = [this](const char* name) {
+      return wait_panel()->findChild<QLabel*>(QString::fromLatin1(name))->text().toStdString();
+    };
+    const auto* bar = wait_panel()->findChild<QProgressBar*>(QStringLiteral("WaitBar"));
+    return text("WaitWhat") + ", " + text("WaitRest") + ", bar " + std::to_string(bar->value()) + " of " +
+           std::to_string(bar->maximum());
+  }
+  [[nodiscard]] static QString focus_name() {
+    return QApplication::focusWidget() != nullptr ? QApplication::focusWidget()->objectName() : QString{};
+  }
+};
+
+constexpr const char* ping_on_2 = "send_cmd folder=. direction=0 file=12 timeout=2 port=2";
+constexpr const char* ask_release_on_1 = "send_cmd folder=. direction=0 file=22 timeout=3 port=1";
+constexpr const char* ask_release_on_3 = "send_cmd folder=. direction=0 file=22 timeout=3 port=3";
 constexpr const char* ping_on_3 = "send_cmd folder=. direction=0 file=12 timeout=2 port=3";
 constexpr const char* ping_on_4 = "send_cmd folder=. direction=0 file=12 timeout=2 port=4";
 constexpr const char* ping_failed =
@@ -235,9 +267,9 @@ TEST_F(FrmPresTest, DebuggingTellsOfEachTestAndOfTheLastTick) {
   link().register_port = 4;
   let_time_pass();
   let_time_pass();
-  // In a tick each test drops the line behind it, whichever it is: that of the failure, or that of the success.
   EXPECT_EQ(log_behind_start(), (Lines{ping_failed, "Test COM 3 KO", ping_failed, "Test COM 4 KO",  //
-                                       "Test COM 3 KO", "Timer_TestCom: 4"}));
+                                       "Test COM 3 KO", "Test COM 4 OK", "Timer_TestCom: 4"}))
+      << "a tick keeps the failures of its tests out of the log, and nothing else";
 }
 
 TEST_F(FrmPresTest, DebuggingTellsOfAPortThatAnswersAtOnce) {
@@ -274,7 +306,6 @@ TEST_F(FrmPresTest, EachModelButtonChoosesItsModelAndOpensTheMainMenu) {
     EXPECT_EQ(top(), QStringLiteral("FrmPrincipale"));
     EXPECT_FALSE(start->isVisible());
     EXPECT_EQ(Global::ComPort, 4);
-    EXPECT_EQ(shell.pointers.back(), Pointer::normal);
   }
 }
 
@@ -301,96 +332,301 @@ TEST_F(FrmPresTest, BackFromTheMainMenuShowsTheSameScreenAgain) {
   EXPECT_EQ(port_colour(), text_green());
 }
 
-TEST_F(FrmPresTest, AModelChosenWhileATestIsOnItsWayWaitsForItBehindABusyPointer) {
-  system.captions = {"Modem (COM3)", "USB Serial Port (COM4)"};
-  link().register_port = 4;
+TEST_F(FrmPresTest, AModelChosenDuringTheSearchWaitsForTheRegistersPort) {
+  // A built-in port that is silent comes first.
+  system.captions = {"Built-in (COM2)", "USB Serial Port (COM3)"};
+  system.tools_apply = true;
+  link().register_port = 3;
   open_start();
-  std::vector<Pointer> pointers_during_test;
   QString top_during_test;
   during_the_first_test([&] {
     click("C_Z320");
     top_during_test = top();
-    pointers_during_test = shell.pointers;
   });
   start->first_discovery();
   EXPECT_EQ(top_during_test, QStringLiteral("FrmPres"));
-  EXPECT_EQ(pointers_during_test, std::vector<Pointer>{Pointer::busy});
   EXPECT_EQ(top(), QStringLiteral("FrmPrincipale"));
-  EXPECT_EQ(link().calls[0], ping_on_3);
-  EXPECT_NE(link().calls[1], ping_on_4) << "the walk is not gone on with";
-  EXPECT_EQ(Global::ComPort, 1) << "the field shows 0, so the first port is taken";
-  int busy = 0;
-  for (const Pointer pointer : shell.pointers) busy += pointer == Pointer::busy ? 1 : -1;
-  EXPECT_EQ(busy, 0) << "in the end the pointer is normal";
-}
-
-TEST_F(FrmPresTest, OfTwoModelsChosenDuringATestTheLastOneCounts) {
-  system.captions = {"USB Serial Port (COM4)"};
-  open_start();
-  during_the_first_test([&] {
-    click("C_Z300");
-    click("C_Z320");
-  });
-  start->first_discovery();
-  EXPECT_EQ(top(), QStringLiteral("FrmPrincipale"));
+  EXPECT_EQ(Global::ComPort, 3);
+  EXPECT_EQ(bytes("port.ini"), "\x03");
   EXPECT_EQ(Global::EcrModel, Global::model_z320);
-  EXPECT_EQ(std::count(shell.pointers.begin(), shell.pointers.end(), Pointer::busy),
-            std::count(shell.pointers.begin(), shell.pointers.end(), Pointer::normal));
+  EXPECT_EQ(link().calls, (Lines{ping_on_2, ping_on_3, ask_release_on_3}));
+  EXPECT_EQ(system.started, Lines{}) << "a register that answered needs no driver";
+  EXPECT_EQ(wait_panel(), nullptr);
 }
 
-TEST_F(FrmPresTest, AModelChosenDuringATicksTestWaitsAsWell) {
+TEST_F(FrmPresTest, AModelChosenDuringATicksSearchWaitsAsWell) {
   open_start();
   start->first_discovery();
-  system.captions = {"USB Serial Port (COM4)"};
+  system.captions = {"Built-in (COM2)", "USB Serial Port (COM3)"};
+  link().register_port = 3;
   during_the_first_test([this] { click("C_Z300"); });
   let_time_pass();
   EXPECT_EQ(top(), QStringLiteral("FrmPrincipale"));
   EXPECT_EQ(Global::EcrModel, Global::model_z300);
-  EXPECT_EQ(Global::ComPort, 4);
+  EXPECT_EQ(Global::ComPort, 3);
+  EXPECT_EQ(link().calls, (Lines{ping_on_2, ping_on_3, ask_release_on_3}));
 }
 
-TEST_F(FrmPresTest, TheScreenTakesInputWhileARealPingIsOnItsWay) {
-  QtShell real{stage};
-  Shell* const before = install_shell(&real);
-  // A real wait needs a clock that moves by itself.
-  install_clock({});
+TEST_F(FrmPresTest, ASearchThatFindsNothingOpensTheWaitingModelOnTheFirstPort) {
   system.captions = {"Modem (COM3)", "USB Serial Port (COM4)"};
+  system.tools_apply = true;
+  link().register_port = 9;
+  open_start();
+  during_the_first_test([this] { click("C_Z320"); });
+  QString top_at_set_up;
+  system.on_start = [&] { top_at_set_up = top(); };
+  start->first_discovery();
+  EXPECT_EQ(link().calls[0], ping_on_3);
+  EXPECT_EQ(link().calls[1], ping_on_4);
+  EXPECT_EQ(top(), QStringLiteral("FrmPrincipale"));
+  EXPECT_EQ(Global::ComPort, 1) << "the field shows 0, so the first port is taken";
+  EXPECT_EQ(system.started.size(), 2U) << "all ports were tried, so the driver is set up";
+  EXPECT_EQ(top_at_set_up, QStringLiteral("FrmPrincipale")) << "and nobody waits for that";
+}
+
+TEST_F(FrmPresTest, TheWaitForTheSearchTellsWhichPortOfHowManyIsAsked) {
+  system.captions = {"Modem (COM3)", "Modem (COM12)", "USB Serial Port (COM4)"};
   link().register_port = 4;
   open_start();
-  // The first call stays on its way, on its own thread, until the person is done.
-  std::promise<void> released;
-  std::shared_future<void> release = released.get_future().share();
-  std::atomic<bool> on_its_way = false;
+  Lines told;
   link().after_call = [&] {
-    on_its_way = true;
-    EXPECT_EQ(release.wait_for(std::chrono::seconds{20}), std::future_status::ready);
+    if (link().calls.size() == 1) click("C_Z320");
+    if (wait_panel() != nullptr) told.push_back(wait_words());
   };
-  QTimer look;
-  QObject::connect(&look, &QTimer::timeout, &look, [&] {
-    if (!on_its_way) return;
-    look.stop();
+  start->first_discovery();
+  EXPECT_EQ(told, (Lines{"Looking for the register on port 3, 1 of 3, bar 0 of 3",
+                         "Looking for the register on port 12, 2 of 3, bar 1 of 3",
+                         "Looking for the register on port 4, 3 of 3, bar 2 of 3"}));
+  EXPECT_EQ(wait_panel(), nullptr);
+}
+
+TEST_F(FrmPresTest, WhileTheDevicesAreListedTheWaitSaysSo) {
+  LanguageNumber = 3;
+  open_start();
+  QString what;
+  QString button;
+  watched.on_run_beside = [&](Waiting) {
+    click("C_Z320");
+    what = wait_panel()->findChild<QLabel*>(QStringLiteral("WaitWhat"))->text();
+    button = give_up_button().text();
+    watched.on_run_beside = {};
+  };
+  start->first_discovery();
+  LanguageNumber = 0;
+  EXPECT_EQ(what, QStringLiteral("Serielle Anschlüsse werden gesucht"));
+  EXPECT_EQ(button, QStringLiteral("Ohne Anschluss weiter"));
+  EXPECT_EQ(top(), QStringLiteral("FrmPrincipale"));
+}
+
+TEST_F(FrmPresTest, ASearchThatIsGivenUpMeansNoPort) {
+  system.captions = {"Modem (COM3)", "USB Serial Port (COM4)", "Modem (COM5)"};
+  system.tools_apply = true;
+  link().register_port = 4;
+  for (const std::size_t during : {1U, 2U}) {
+    SCOPED_TRACE(during);
+    link().calls.clear();
+    open_start();
+    link().after_call = [&] {
+      if (link().calls.size() == 1) click("C_Z320");
+      // The second test is the one that the register answers.
+      if (link().calls.size() == during) give_up_button().click();
+    };
+    start->first_discovery();
+    link().after_call = {};
+    EXPECT_EQ(port(), QStringLiteral("0"));
+    EXPECT_EQ(port_colour(), text_red());
+    EXPECT_EQ(top(), QStringLiteral("FrmPrincipale"));
+    EXPECT_EQ(Global::ComPort, 1);
+    EXPECT_EQ(bytes("port.ini"), "\x01");
+    ASSERT_GT(link().calls.size(), during);
+    EXPECT_EQ(link().calls[during], ask_release_on_1) << "no other port was asked";
+    EXPECT_TRUE(timer().isActive());
+    EXPECT_EQ(system.started, Lines{}) << "not all ports were tried, so the driver is not set up";
+    EXPECT_EQ(wait_panel(), nullptr);
+  }
+}
+
+TEST_F(FrmPresTest, ATicksSearchCanBeGivenUpToo) {
+  open_start();
+  start->first_discovery();
+  system.captions = {"Modem (COM3)", "USB Serial Port (COM4)"};
+  link().register_port = 4;
+  during_the_first_test([this] {
+    click("C_Z320");
+    give_up_button().click();
+  });
+  let_time_pass();
+  EXPECT_EQ(top(), QStringLiteral("FrmPrincipale"));
+  EXPECT_EQ(link().calls[0], ping_on_3);
+  EXPECT_EQ(link().calls[1], ask_release_on_1);
+}
+
+TEST_F(FrmPresTest, ANumberTypedDuringASearchThatFindsNothingIsTaken) {
+  system.captions = {"Modem (COM3)"};
+  link().register_port = 9;
+  open_start();
+  during_the_first_test([this] {
+    click("E_ComPort");
+    press(Qt::Key_A, Qt::ControlModifier);
+    type(QStringLiteral("5"));
+    click("C_Z320");
+  });
+  start->first_discovery();
+  EXPECT_EQ(Global::ComPort, 5);
+}
+
+class FrmPresOnRealShell : public FrmPresTest {
+ protected:
+  FrmPresOnRealShell() : before_{install_shell(&real_)} {
+    // A real wait needs a clock that moves by itself.
+    install_clock({});
+    QObject::connect(&look_, &QTimer::timeout, &look_, [this] {
+      if (on_its_way_ && person_ && person_()) {
+        look_.stop();
+        released_.set_value();
+      }
+    });
+  }
+  ~FrmPresOnRealShell() override { install_shell(before_); }
+
+  /// The first call stays on its way, on its own thread, until `person`, who is asked again and again, is done.
+  void hold_the_first_test(std::function<bool()> person) {
+    person_ = std::move(person);
+    link().after_call = [this, release = released_.get_future().share()] {
+      if (on_its_way_.exchange(true)) return;
+      EXPECT_EQ(release.wait_for(std::chrono::seconds{20}), std::future_status::ready);
+    };
+    look_.start(1);
+  }
+  [[nodiscard]] bool wait_is_up() const { return wait_panel() != nullptr && wait_panel()->isVisible(); }
+
+ private:
+  QtShell real_{stage};
+  Shell* before_;
+  std::promise<void> released_;
+  std::atomic<bool> on_its_way_ = false;
+  std::function<bool()> person_;
+  QTimer look_;
+};
+
+TEST_F(FrmPresOnRealShell, TheScreenTakesInputWhileAPingIsOnItsWay) {
+  system.captions = {"Modem (COM3)"};
+  link().register_port = 9;
+  open_start();
+  hold_the_first_test([this] {
     click("E_ComPort");
     press(Qt::Key_A, Qt::ControlModifier);
     type(QStringLiteral("5"));
     EXPECT_EQ(port(), QStringLiteral("5"));
     click("C_Z320");
     EXPECT_EQ(top(), QStringLiteral("FrmPres")) << "the link takes one call at a time";
-    ASSERT_NE(QApplication::overrideCursor(), nullptr);
-    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
-    released.set_value();
+    return true;
   });
-  look.start(1);
   start->first_discovery();
   EXPECT_EQ(top(), QStringLiteral("FrmPrincipale"));
   EXPECT_EQ(Global::ComPort, 5) << "the number that was typed";
-  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-  install_shell(before);
+}
+
+TEST_F(FrmPresOnRealShell, ThePersonWhoWaitsReachesTheCardAndNothingElse) {
+  system.captions = {"Modem (COM3)", "USB Serial Port (COM4)"};
+  link().register_port = 4;
+  open_start();
+  bool clicked = false;
+  hold_the_first_test([&] {
+    if (!std::exchange(clicked, true)) click("C_Z320");
+    if (!wait_is_up()) return false;
+    CommandButton& button = give_up_button();
+    EXPECT_TRUE(button.hasFocus());
+    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_X}) press(key);
+    EXPECT_TRUE(button.hasFocus()) << "the keyboard stays on the card";
+    // Where the other model and the exit lie, as the window sees it.
+    for (const char* name : {"C_Z300", "C_Exit", "C_LinguaSel"}) {
+      const QWidget& covered = control(name);
+      QTest::mouseClick(stage.windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                        covered.mapTo(&stage, QPoint{covered.width() / 4, covered.height() / 4}));
+    }
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    // The key that clicked the model is still held down.
+    QKeyEvent held{QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString{}, true};
+    QCoreApplication::sendEvent(&button, &held);
+    EXPECT_TRUE(button.isEnabled());
+    return true;
+  });
+  start->first_discovery();
+  EXPECT_EQ(top(), QStringLiteral("FrmPrincipale"));
+  EXPECT_EQ(Global::EcrModel, Global::model_z320) << "the model that was clicked first";
+  EXPECT_EQ(Global::ComPort, 4);
+  EXPECT_EQ(focus_name(), QStringLiteral("C_ModificaProgrammazione")) << "the main menu's own first control";
+}
+
+TEST_F(FrmPresOnRealShell, TheButtonGivesTheSearchUp) {
+  system.captions = {"Modem (COM3)", "USB Serial Port (COM4)"};
+  link().register_port = 4;
+  open_start();
+  bool clicked = false;
+  hold_the_first_test([&] {
+    if (!std::exchange(clicked, true)) click("C_Z320");
+    if (!wait_is_up()) return false;
+    CommandButton& button = give_up_button();
+    QTest::mouseClick(stage.windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                      button.mapTo(&stage, button.rect().center()));
+    EXPECT_FALSE(button.isEnabled()) << "the wait goes on until the test on its way is over";
+    EXPECT_TRUE(wait_is_up());
+    return true;
+  });
+  start->first_discovery();
+  EXPECT_EQ(top(), QStringLiteral("FrmPrincipale"));
+  EXPECT_EQ(link().calls[1], ask_release_on_1);
+}
+
+TEST_F(FrmPresOnRealShell, EscapeGivesTheSearchUp) {
+  system.captions = {"Modem (COM3)", "USB Serial Port (COM4)"};
+  link().register_port = 4;
+  open_start();
+  bool clicked = false;
+  hold_the_first_test([&] {
+    if (!std::exchange(clicked, true)) click("C_Z320");
+    if (!wait_is_up()) return false;
+    press(Qt::Key_Escape);
+    return true;
+  });
+  start->first_discovery();
+  EXPECT_EQ(top(), QStringLiteral("FrmPrincipale"));
+  EXPECT_EQ(link().calls[1], ask_release_on_1);
+}
+
+TEST_F(FrmPresOnRealShell, TheCloseBoxEndsTheProgramDuringTheWaitToo) {
+  system.captions = {"Modem (COM3)", "USB Serial Port (COM4)"};
+  open_start();
+  EXPECT_EXIT(
+      {
+        hold_the_first_test([this] {
+          click("C_Z320");
+          stage.close();
+          return true;
+        });
+        start->first_discovery();
+      },
+      ::testing::ExitedWithCode(EXIT_SUCCESS), "");
+  EXPECT_EQ(log_behind_start(), Lines{"End Programm"});
 }
 
 TEST_F(FrmPresTest, ExitLogsTheEndAndEndsTheProgram) {
   open_start();
   expect_program_ends([this] { click("C_Exit"); });
   EXPECT_EQ(log_behind_start(), Lines{"End Programm"});
+}
+
+TEST_F(FrmPresTest, ExitDuringATicksTestIsLoggedToo) {
+  system.captions = {"Modem (COM3)"};
+  link().register_port = 9;
+  open_start();
+  start->first_discovery();
+  expect_program_ends([this] {
+    during_the_first_test([this] { click("C_Exit"); });
+    let_time_pass();
+  });
+  EXPECT_EQ(log_behind_start(), (Lines{ping_failed, "End Programm"}));
 }
 
 TEST_F(FrmPresTest, TheCloseBoxEndsTheProgramAsExitDoes) {

@@ -232,6 +232,33 @@ TEST_F(FrmPrincipaleTest, ANewProgrammingWithoutItsDefaultImageIsToldAndStops) {
   EXPECT_EQ(log(), Lines{"copia_def_file: 53 File not found"});
 }
 
+TEST_F(FrmPrincipaleTest, AnEarlierProgrammingDoesNotGoOnInPlaceOfOneThatIsNotThere) {
+  auto* below = &open("FrmProgramMode");
+  install_defaults();
+  opened();
+  answer_new(Answer::yes);
+  ASSERT_EQ(top(), QStringLiteral("FrmSetup"));
+  click("C_Exit");
+  let_screens_settle();
+  ASSERT_EQ(stage.top(), screen);
+
+  remove("Dati/ECRZ320/ECRZ320_PRG_MODE.BIN");
+  set_message(Key::FRM_ALL_WRONG_ECR, "Wrong register");
+  expect_box(BoxKind::plain, "Overwrite current setting with default?", Answer::yes);
+  expect_box(BoxKind::plain, "Error During copy PRG_MODE_FILE");
+  expect_box(BoxKind::plain, "Wrong register");
+  click("C_NuovaProgrammazione");
+  EXPECT_EQ(stage.top(), screen);
+  EXPECT_EQ(image_file(), "");
+
+  // The empty file that the read left is no programming either.
+  expect_box(BoxKind::plain, "Get Setting from Cash register?", Answer::no);
+  expect_box(BoxKind::plain, "Wrong register");
+  click("C_ModificaProgrammazione");
+  let_screens_settle();
+  EXPECT_EQ(stage.top(), below);
+}
+
 TEST_F(FrmPrincipaleTest, ANewProgrammingWithoutItsDefaultItemsGoesOn) {
   install_defaults();
   remove("Dati/ECRZ320/ECRZ320_PRG_PLU.BIN");

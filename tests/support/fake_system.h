@@ -40,10 +40,26 @@ class FakeSystem final : public System {
 
   std::function<Fault(const std::string&, std::string_view)> on_append;
   std::function<Fault(const std::string&, std::string_view)> on_replace;
+  /// The steps of each save that reaches the host, in order: "write", "rename" or "flush folder" and the file's name.
+  std::vector<std::string> save_steps;
+  /// Called before each such step is made, with its words; a fault that it answers stands for the step.
+  std::function<Fault(const std::string&, const FreshFile&)> on_save_step;
   std::function<std::unique_ptr<Library>(const std::string&, std::string&)> on_load;
 
   Fault replace_file(const std::string& path, std::string_view bytes) override {
-    return on_replace ? on_replace(path, bytes) : host_system().replace_file(path, bytes);
+    return on_replace ? on_replace(path, bytes) : System::replace_file(path, bytes);
+  }
+  Fault write_beside(const std::string& path, std::string_view bytes, FreshFile& fresh) override {
+    const Fault fault = begin_step("write ", path, fresh);
+    return fault.stands() ? fault : host_system().write_beside(path, bytes, fresh);
+  }
+  Fault rename_over(const FreshFile& fresh) override {
+    const Fault fault = begin_step("rename ", fresh.target, fresh);
+    return fault.stands() ? fault : host_system().rename_over(fresh);
+  }
+  Fault flush_folder_of(const std::string& target) override {
+    const Fault fault = begin_step("flush folder ", target, {});
+    return fault.stands() ? fault : host_system().flush_folder_of(target);
   }
   Fault append_file(const std::string& path, std::string_view bytes) override {
     return on_append ? on_append(path, bytes) : host_system().append_file(path, bytes);
@@ -75,6 +91,11 @@ class FakeSystem final : public System {
   }
 
  private:
+  Fault begin_step(const std::string& words, const std::string& path, const FreshFile& fresh) {
+    save_steps.push_back(words + path.substr(path.rfind('/') + 1));
+    return on_save_step ? on_save_step(save_steps.back(), fresh) : Fault{};
+  }
+
   System* before_;
 };
 

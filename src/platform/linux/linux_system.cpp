@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <fstream>
 #include <limits>
+#include <random>
 #include <string>
 #include <string_view>
 #include <sys/file.h>
@@ -20,6 +21,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/unfinished_save.h"
 #include "platform/linux/linux_devices.h"
 #include "platform/platform.h"
 
@@ -59,6 +61,18 @@ Fault fault_of_making(int error) {
   return error == ENOENT ? Fault{FaultCode::path_not_found} : fault_of_errno(error);
 }
 
+/// A file that nobody else has, beside `target`, under a name that becomes `path`. Answers its descriptor, or -1 with
+/// errno set.
+int file_beside(const std::string& target, std::string& path) {
+  constexpr int attempts = 100;
+  std::random_device random;
+  for (int attempt = 1;; ++attempt) {
+    path = target + unfinished_save_ending(random());
+    const int file = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+    if (file >= 0 || errno != EEXIST || attempt == attempts) return file;
+  }
+}
+
 class LinuxLibrary final : public Library {
  public:
   explicit LinuxLibrary(void* handle) : handle_{handle} {}
@@ -78,25 +92,42 @@ std::string executable_of(const std::string& process) {
 
 class LinuxSystem final : public System {
  public:
-  Fault replace_file(const std::string& path, std::string_view bytes) override {
-    // A link is written through, not replaced; a file that may not be written is left alone.
+  Fault write_beside(const std::string& path, std::string_view bytes, FreshFile& fresh) override {
     std::error_code ignored;
     const fs::path resolved = fs::canonical(path, ignored);
-    const std::string target = resolved.empty() ? path : resolved.string();
+    fresh.target = resolved.empty() ? path : resolved.string();
     struct stat old {};
-    const bool exists = ::stat(target.c_str(), &old) == 0;
-    if (exists && ::access(target.c_str(), W_OK) != 0) return fault_of_errno(errno);
+    const bool exists = ::stat(fresh.target.c_str(), &old) == 0;
+    if (exists && ::access(fresh.target.c_str(), W_OK) != 0) return fault_of_errno(errno);
 
-    std::string fresh = target + ".XXXXXX";
-    Descriptor file{::mkostemp(fresh.data(), O_CLOEXEC)};
+    const Descriptor file{file_beside(fresh.target, fresh.path)};
     if (!file.open()) return fault_of_making(errno);
     int error = write_all(file.get(), bytes);
     if (error == 0 && ::fchmod(file.get(), exists ? old.st_mode & 07777 : 0666 & ~mask_) != 0) error = errno;
     if (error == 0 && ::fsync(file.get()) != 0) error = errno;
-    file.close();
-    if (error == 0 && ::rename(fresh.c_str(), target.c_str()) != 0) error = errno;
-    if (error != 0) ::unlink(fresh.c_str());
+    if (error != 0) ::unlink(fresh.path.c_str());
     return fault_of_errno(error);
+  }
+
+  Fault rename_over(const FreshFile& fresh) override {
+    if (::rename(fresh.path.c_str(), fresh.target.c_str()) == 0) return {};
+    const int error = errno;
+    ::unlink(fresh.path.c_str());
+    return fault_of_errno(error);
+  }
+
+  Fault flush_folder_of(const std::string& target) override {
+    const fs::path folder = fs::path{target}.parent_path();
+    const Descriptor opened{::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
+    if (!opened.open()) {
+      if (errno != EACCES) return fault_of_errno(errno);
+      // A folder that takes files and may not be listed. Everything is flushed, so it is too.
+      ::sync();
+      return {};
+    }
+    if (::fsync(opened.get()) == 0) return {};
+    // Some file systems know no flush of folders.
+    return errno == EINVAL || errno == ENOTSUP ? Fault{} : fault_of_errno(errno);
   }
 
   Fault append_file(const std::string& path, std::string_view bytes) override {

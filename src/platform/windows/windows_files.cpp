@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 
+#include "core/unfinished_save.h"
 #include "platform/windows/wide_text.h"
 #include "platform/windows/windows_error.h"
 #include "platform/windows/windows_handle.h"
@@ -41,6 +43,16 @@ std::wstring resolved(HANDLE file, const std::wstring& path) {
   return target;
 }
 
+/// A wide text byte by byte, and back: a link may lead to a name that the code page lacks.
+std::string packed(const std::wstring& text) {
+  return {reinterpret_cast<const char*>(text.data()), text.size() * sizeof(wchar_t)};
+}
+std::wstring unpacked(const std::string& bytes) {
+  std::wstring text(bytes.size() / sizeof(wchar_t), L'\0');
+  std::memcpy(text.data(), bytes.data(), text.size() * sizeof(wchar_t));
+  return text;
+}
+
 /// A file that nobody else has, beside `target`, under a name that becomes `name`. When it cannot be made, the error is
 /// the thread's last one.
 WindowsHandle file_beside(const std::wstring& target, DWORD attributes, std::wstring& name) {
@@ -50,7 +62,7 @@ WindowsHandle file_beside(const std::wstring& target, DWORD attributes, std::wst
   auto number =
       static_cast<std::uint32_t>(ticks.QuadPart) ^ (static_cast<std::uint32_t>(::GetCurrentProcessId()) << 16U);
   for (int attempt = 1;; ++attempt, ++number) {
-    name = target + L"." + std::to_wstring(number);
+    name = target + wide(unfinished_save_ending(number));
     WindowsHandle file{::CreateFileW(name.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, attributes, nullptr)};
     if (file.open() || ::GetLastError() != ERROR_FILE_EXISTS || attempt == attempts) return file;
   }
@@ -75,7 +87,7 @@ DWORD rename_over(const std::wstring& fresh, const std::wstring& target) {
 
 }  // namespace
 
-Fault windows_replace_file(const std::string& path, std::string_view bytes) {
+Fault windows_write_beside(const std::string& path, std::string_view bytes, FreshFile& fresh) {
   std::wstring target = wide(path);
   DWORD attributes = ::GetFileAttributesW(target.c_str());
   if (attributes == INVALID_FILE_ATTRIBUTES) {
@@ -95,14 +107,21 @@ Fault windows_replace_file(const std::string& path, std::string_view bytes) {
   }
 
   constexpr DWORD kept = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
-  std::wstring fresh;
-  WindowsHandle file = file_beside(target, FILE_ATTRIBUTE_ARCHIVE | (attributes & kept), fresh);
+  std::wstring name;
+  WindowsHandle file = file_beside(target, FILE_ATTRIBUTE_ARCHIVE | (attributes & kept), name);
   if (!file.open()) return fault_of_windows(::GetLastError());
   DWORD error = write_all(file.get(), bytes);
   if (error == ERROR_SUCCESS && ::FlushFileBuffers(file.get()) == 0) error = ::GetLastError();
   file.close();
-  if (error == ERROR_SUCCESS) error = rename_over(fresh, target);
-  if (error != ERROR_SUCCESS) ::DeleteFileW(fresh.c_str());
+  if (error != ERROR_SUCCESS) ::DeleteFileW(name.c_str());
+  fresh = {packed(name), packed(target)};
+  return fault_of_windows(error);
+}
+
+Fault windows_rename_over(const FreshFile& fresh) {
+  const std::wstring name = unpacked(fresh.path);
+  const DWORD error = rename_over(name, unpacked(fresh.target));
+  if (error != ERROR_SUCCESS) ::DeleteFileW(name.c_str());
   return fault_of_windows(error);
 }
 

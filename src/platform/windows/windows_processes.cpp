@@ -19,7 +19,7 @@ constexpr DWORD all_access = 0x1F0FFF;
 
 /// A word as the receiving program's start code takes it apart again: a backslash counts as itself unless a row of them
 /// ends in a quote, where each is doubled.
-std::wstring quoted(std::wstring_view word) {
+std::wstring in_quotes(std::wstring_view word) {
   std::wstring text{L'"'};
   std::size_t backslashes = 0;
   for (const wchar_t c : word) {
@@ -35,7 +35,7 @@ std::wstring quoted(std::wstring_view word) {
 /// Quotes stand only where they must: some old tools take their command line as it is.
 std::wstring as_argument(std::wstring_view word) {
   const bool plain = !word.empty() && word.find_first_of(L" \t\n\v\"") == std::wstring_view::npos;
-  return plain ? std::wstring{word} : quoted(word);
+  return plain ? std::wstring{word} : in_quotes(word);
 }
 
 }  // namespace
@@ -61,7 +61,7 @@ bool windows_end_process(std::uint64_t id) {
 
 Fault windows_start_minimised(const std::string& program, const std::vector<std::string>& arguments) {
   const std::wstring executable = wide(program);
-  std::wstring command_line = quoted(executable);
+  std::wstring command_line = in_quotes(executable);
   for (const std::string& argument : arguments) command_line += L" " + as_argument(wide(argument));
 
   STARTUPINFOW startup{};

@@ -16,9 +16,12 @@ namespace {
 
 class WindowsSystem final : public System {
  public:
-  Fault replace_file(const std::string& path, std::string_view bytes) override {
-    return windows_replace_file(path, bytes);
+  Fault write_beside(const std::string& path, std::string_view bytes, FreshFile& fresh) override {
+    return windows_write_beside(path, bytes, fresh);
   }
+  Fault rename_over(const FreshFile& fresh) override { return windows_rename_over(fresh); }
+  // The rename has done it.
+  Fault flush_folder_of(const std::string&) override { return {}; }
   [[nodiscard]] bool paths_are_utf8() const override { return false; }
   Fault append_file(const std::string& path, std::string_view bytes) override {
     return windows_append_file(path, bytes);
