@@ -16,7 +16,8 @@ namespace ecr {
 /// zeros included. A text that is no number gives an empty one and a line in the log.
 [[nodiscard]] std::string Amount_Text(std::string_view value, int decimals);
 
-/// A signed field as text. Quantities come in their shortest form.
+/// A signed field as text. Quantities come in their shortest form. A field that cannot be read gives an empty text and
+/// the line in the log that bcds_to_number leaves.
 [[nodiscard]] std::string Bcds_To_Stock(std::span<const std::uint8_t> field);
 
 /// The same behind what stands in `out`, without a text of its own for each field.

@@ -3,12 +3,12 @@
 #include <array>
 #include <charconv>
 #include <string>
+#include <utility>
 
 #include "core/clock.h"
 #include "core/run_log.h"
 #include "link/error_tables.h"
 #include "link/report_fetch.h"
-#include "reports/export_report.h"
 
 namespace ecr {
 namespace {
@@ -23,25 +23,36 @@ std::string seconds_text(double seconds) {
   return {text.data(), end.ptr};
 }
 
-void export_one(std::uint8_t number) {
+CsvOutcome export_one(std::uint8_t number) {
   const double begun = now().second_of_day;
-  if (!Receive_ReportEcr(number)) return;
-  export_ReportEcr(number);
+  if (!Receive_ReportEcr(number)) return {};
+  CsvOutcome outcome = export_ReportEcr(number);
   double passed = now().second_of_day - begun;
   if (passed < 0) passed += seconds_of_a_day;
   memo_log("Time for download report " + std::to_string(number) + " is:" + seconds_text(passed));
+  return outcome;
 }
 
 }  // namespace
 
-void export_reports(const std::vector<std::uint8_t>& numbers, const std::function<void(std::uint8_t)>& begins) {
-  for (const std::uint8_t number : numbers) {
-    begins(number);
-    export_one(number);
-  }
+std::vector<CsvOutcome> export_reports(const std::vector<std::uint8_t>& numbers,
+                                       const std::function<void(std::uint8_t)>& begins) {
   // Dealers look at the release that is left behind in this way.
-  begins(FileNumber::release);
-  export_one(FileNumber::release);
+  std::vector<std::uint8_t> all = numbers;
+  all.push_back(FileNumber::release);
+  std::vector<CsvOutcome> unwritten;
+  for (const std::uint8_t number : all) {
+    begins(number);
+    CsvOutcome outcome = export_one(number);
+    if (outcome.fault.stands()) unwritten.push_back(std::move(outcome));
+  }
+  if (!unwritten.empty()) {
+    const Fault& last = unwritten.back().fault;
+    std::string line = "C_Export_click err: " + std::to_string(last.number()) + " Desc: ";
+    line += last.description();
+    memo_log(line);
+  }
+  return unwritten;
 }
 
 }  // namespace ecr

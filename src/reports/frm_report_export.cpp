@@ -56,6 +56,7 @@ FrmReportExport::FrmReportExport()
     : Screen{QStringLiteral("FrmReportExport")},
       frame_{*this, ScreenFrame::Corner::picture},
       Txt_MPS_Min{new Field{QStringLiteral("Txt_MPS_Min"), this}},
+      L_Progress{make_label(QStringLiteral("L_Progress"), this)},
       C_Annulla{new CommandButton{QStringLiteral("C_Annulla"), this}},
       C_View{new CommandButton{QStringLiteral("C_View"), this}},
       C_Salva{new CommandButton{QStringLiteral("C_Salva"), this}},
@@ -102,7 +103,10 @@ FrmReportExport::FrmReportExport()
   level->addStretch(1);
   grid->addLayout(level, 6, 1);
   frame_.body->addSpacing(8);
+  L_Progress->setTextFormat(Qt::PlainText);
+  L_Progress->setWordWrap(true);
   frame_.body->addLayout(grid);
+  frame_.body->addWidget(L_Progress);
   frame_.body->addStretch(1);
 
   captions_.add(*C_Annulla, Key::FRM_ALL_C_ANNULLA, "Back");
@@ -157,12 +161,19 @@ void FrmReportExport::run_export() {
   for (std::uint8_t number = first_report; number <= last_report; ++number) {
     if (box(number)->isChecked() && box(number)->isEnabled()) numbers.push_back(number);
   }
+  L_Progress->clear();
   const BusyPointer busy;
   // Behind the reports the release follows.
   WaitSteps steps{static_cast<int>(numbers.size()) + 1};
-  export_reports(numbers, [this, &steps](std::uint8_t number) {
-    steps.next(number <= last_report ? box(number)->text() : QString{});
-  });
+  QStringList unwritten;
+  for (const CsvOutcome& outcome : export_reports(numbers, [this, &steps](std::uint8_t number) {
+         steps.next(number <= last_report ? box(number)->text() : QString{});
+       })) {
+    unwritten.append(screen_text(outcome.file));
+  }
+  if (!unwritten.isEmpty()) {
+    L_Progress->setText(own_words(OwnText::reports_not_written).arg(unwritten.join(QStringLiteral(", "))));
+  }
 }
 
 }  // namespace ecr

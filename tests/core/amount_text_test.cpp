@@ -162,9 +162,13 @@ TEST_F(AmountText, TheDecimalsInForceDoNotTouchQuantities) {
   EXPECT_EQ(Bcds_To_Stock(field_of(15000, 6)), "1.5");
 }
 
-TEST_F(AmountText, AFieldThatCannotBeReadGivesNoTextAndIsLogged) {
+TEST_F(AmountText, AFieldThatCannotBeReadGivesNoTextAndOneLine) {
   EXPECT_EQ(Bcds_To_Stock(Bytes{0xAA, 0x00}), "");
-  EXPECT_EQ(log(), (std::vector<std::string>{"bcds_to_number Type mismatch", "Bcds_To_Stock: Type mismatch"}));
+  EXPECT_EQ(log(), std::vector<std::string>{"bcds_to_number Type mismatch"});
+  Global::DecimalPoint = 2;
+  EXPECT_EQ(Bcds_To_Stock(Bytes{0x0F, 0, 0, 0, 0, 0, 0, 0}), "") << "an amount";
+  EXPECT_EQ(Bcds_To_Stock(Bytes{}), "") << "there is nothing to be read";
+  EXPECT_EQ(log().size(), 2U);
 }
 
 TEST_F(AmountText, AFieldWithAnInvalidHighByteGivesTheNumberBelowIt) {
