@@ -230,7 +230,7 @@ void FrmDepartmentProgram::group_changed() {
   if (value == Decimal{group_ten_stored}) {
     // The same group, as the register stores it.
     E_DeptGroupNumber->show_text(QString::number(group_ten));
-  } else if (value > Decimal{group_ten}) {
+  } else if (value.is_negative() || value > Decimal{group_ten}) {
     refuse_value(*E_DeptGroupNumber);
   }
   const QString text = E_DeptGroupNumber->text();

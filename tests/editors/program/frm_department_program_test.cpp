@@ -564,6 +564,20 @@ TEST_F(FrmDepartmentProgramTest, APastedGroupIsCutUntilItIsTaken) {
   EXPECT_EQ(field("E_DeptGroupNumber").text(), QStringLiteral("10")) << "cut to 16, which is the stored form of 10";
 }
 
+TEST_F(FrmDepartmentProgramTest, ANegativeGroupIsRefusedAsOneAboveTen) {
+  in_memory(1).Group = 3;
+  open_editor();
+  click("E_DeptGroupNumber");
+  expect_refusals(1);
+  paste_over(QStringLiteral("-5"));
+  EXPECT_EQ(field("E_DeptGroupNumber").text(), QStringLiteral("-"));
+  expect_refusals(2);
+  paste_over(QStringLiteral("-12"));
+  EXPECT_EQ(field("E_DeptGroupNumber").text(), QStringLiteral("-"));
+  save();
+  EXPECT_EQ(stored(1, group_at), 0) << "what is left says no number";
+}
+
 TEST_F(FrmDepartmentProgramTest, AGroupFromElsewhereThatIsTooHighIsRefusedAsItIsShown) {
   in_memory(2).Group = 25;
   open_editor();
