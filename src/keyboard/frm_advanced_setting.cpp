@@ -285,7 +285,7 @@ void FrmAdvancedSetting::save() {
     }
   }
   PrgMode.KeyLayout = layout_.codes();
-  Write_PrgMode();
+  frame_.write_file();
 }
 
 }  // namespace ecr

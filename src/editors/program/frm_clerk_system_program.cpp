@@ -254,7 +254,7 @@ void FrmClerkSystemProgram::save() {
   record.Name.set(sostituzione_to_ecr(codes_of(E_Name->text())));
   rights_.save(place_of(clerk));
   number_to_bcds(record.Password, page_bytes(E_Password->text()));
-  Write_PrgMode();
+  frame_.write_file();
   Carica_Griglia();
   table_.go_to(table_.following_number(clerk - 1));
 }

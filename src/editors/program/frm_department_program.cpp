@@ -259,7 +259,7 @@ void FrmDepartmentProgram::save() {
   const auto department = static_cast<std::size_t>(index + 1);
   record.Changed = changed_.test(department) ? 1 : 0;
   changed_.reset(department);
-  Write_PrgMode();
+  frame_.write_file();
   Carica_Griglia();
   table_.go_to(table_.following_number(index));
 }

@@ -139,7 +139,7 @@ void FrmFCRatingSetting::save() {
     record.DecimalPositionForRate = static_cast<std::uint8_t>(currency.Cmb_DecimalPositionForRate->whole_number());
     record.DecimalPositionForExchangedRate = static_cast<std::uint8_t>(currency.decimals());
   }
-  Write_PrgMode();
+  frame_.write_file();
 }
 
 }  // namespace ecr

@@ -171,7 +171,7 @@ void FrmInstoreBarcodeSetting::save() {
   record.NumberOfFc = static_cast<std::uint8_t>(Cmb_NumberOfFc->whole_number());
   record.NewsPaper = Cmb_NewsPaper->number();
   number_to_bcds(record.FlagCode, page_bytes(E_FlagCode->text()));
-  Write_PrgMode();
+  frame_.write_file();
   Carica_Griglia();
   table_.go_to(table_.following_number(rule - 1));
 }

@@ -128,7 +128,7 @@ void FrmPercentageMenu::save() {
   number_to_bcds(PrgMode.PercentB[0], stored_rate(E_P2KeyRate->text()));
   number_to_bcds(PrgMode.PercentB[1], stored_rate(E_P2KeyRateLimit->text()));
   signs_.save();
-  Write_PrgMode();
+  frame_.write_file();
 }
 
 }  // namespace ecr

@@ -55,7 +55,8 @@ FrmPermissionProgram::FrmPermissionProgram()
     });
   }
   frame_.log_prefixes("FrmPermissionProgram form_load: ", "FrmPermissionProgram Salva: ");
-  frame_.on_save([this] { save(); });
+  // A word in the manager's field comes too late for the three passwords before it: they are in the image by then.
+  frame_.on_save([this] { save(); }, EditorFrame::AfterFault::memory_stays);
   frame_.after_send([this] { E_Prg_ZModePasswordSetting->setFocus(Qt::OtherFocusReason); });
   set_tab_chain({E_Prg_ZModePasswordSetting, E_XModePasswordSetting, E_TrainingModePasswordSetting,
                  E_ManagerModePassword, frame_.C_Salva, frame_.C_Invia_Ecr, frame_.C_Annulla, frame_.top.I_Help});
@@ -73,7 +74,7 @@ void FrmPermissionProgram::save() {
   for (const Place& place : places_) {
     number_to_bcds(PrgMode.*place.password, Decimal::from_text(page_bytes(place.field->text())));
   }
-  Write_PrgMode();
+  frame_.write_file();
 }
 
 }  // namespace ecr

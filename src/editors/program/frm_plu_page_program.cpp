@@ -68,7 +68,7 @@ void FrmPluPageProgram::save() {
   for (std::size_t i = 0; i < E_PluPage.size(); ++i) {
     number_to_bcds(PrgMode.PluPage[i], page_bytes(E_PluPage[i]->text()));
   }
-  Write_PrgMode();
+  frame_.write_file();
 }
 
 }  // namespace ecr

@@ -34,7 +34,7 @@ FrmPopUpPluList::FrmPopUpPluList()
     Tab_PopUpPluList->addTab(make_list(list), own_words(OwnText::list_number).arg(list + 1));
   }
   frame_.body->addWidget(Tab_PopUpPluList, 1);
-  frame_.changes_file(QStringLiteral("PRG_PLU.BIN"));
+  frame_.saves_to(SavesTo::item_file);
   frame_.on_save([this] { save(); });
   frame_.send_with(Send_PrgPluToEcr, EditorFrame::WhileSending::buttons_enabled);
 }
@@ -95,7 +95,7 @@ void FrmPopUpPluList::save() {
       number_to_bcds(PrgPlu.Lists[list][entry], page_bytes(E_Plu[list][entry]->text()));
     }
   }
-  Write_PrgPlu();
+  frame_.write_file();
 }
 
 }  // namespace ecr

@@ -103,7 +103,7 @@ void FrmPrgPlu::save() {
   }
   changed_.reset(index);
   Ordina(static_cast<int>(index));
-  Write_PrgPlu();
+  frame_.write_file();
   table_.go_to(following);
   Fg_Plu->bring_to_top(std::max(1, following - 1));
 }

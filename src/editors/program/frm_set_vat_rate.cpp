@@ -88,7 +88,7 @@ void FrmSetVatRate::save() {
   for (std::size_t i = 0; i < E_VatRate.size(); ++i) {
     number_to_bcds(PrgMode.VatRate[i], stored_rate(E_VatRate[i]->text()));
   }
-  Write_PrgMode();
+  frame_.write_file();
 }
 
 }  // namespace ecr

@@ -216,7 +216,7 @@ void FrmSystemOption::save() {
   }
   lists_.save();
   Global::DecimalPoint = PrgMode.SysOpt0;
-  Write_PrgMode();
+  frame_.write_file();
 }
 
 }  // namespace ecr

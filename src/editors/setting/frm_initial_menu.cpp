@@ -70,7 +70,7 @@ void FrmInitialMenu::save() {
   }
   lists_.save();
   number_to_bcds(PrgMode.InitialMenuBlock5, page_bytes(E_BusinessID->text()));
-  Write_PrgMode();
+  frame_.write_file();
 }
 
 }  // namespace ecr
