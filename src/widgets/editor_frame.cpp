@@ -9,6 +9,7 @@
 #include "core/shell.h"
 #include "image/programming_copy.h"
 #include "link/transfer.h"
+#include "widgets/field.h"
 #include "widgets/glyphs.h"
 #include "widgets/look.h"
 #include "widgets/screen_text.h"
@@ -83,6 +84,16 @@ void EditorFrame::load(const std::function<void()>& routine) {
   C_Invia_Ecr->setToolTip(file + QStringLiteral(" → ") + top.L_Session->text().section(QStringLiteral("   "), 0, 1));
   captions.lay();
   guarded(load_prefix_, routine);
+}
+
+void EditorFrame::load_part(const std::function<void()>& part) const {
+  guarded(load_prefix_, part);
+}
+
+void EditorFrame::load_field(Field& field, const std::function<QString()>& text) const {
+  QString shown;
+  load_part([&] { shown = text(); });
+  field.show_stored(shown);
 }
 
 void EditorFrame::run_save() {

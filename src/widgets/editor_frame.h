@@ -4,7 +4,8 @@
 // An editor shows the working image itself and keeps no copy. Save writes the screen into the image and the image to
 // its file. Send sends the file, not what stands on the screen. Back closes without a question.
 //
-// Save is done as a whole or not at all: where it ends with a fault, memory is put back as it was and no file is written.
+// Load shows each field that can be shown, whatever becomes of the others. Save is done as a whole or not at all: where
+// it ends with a fault, memory is put back as it was and no file is written.
 
 #include <cstdint>
 #include <functional>
@@ -17,6 +18,8 @@
 #include "widgets/screen_frame.h"
 
 namespace ecr {
+
+class Field;
 
 /// What the Save of an editor writes.
 enum class SavesTo : std::uint8_t {
@@ -57,6 +60,12 @@ class EditorFrame {
   /// Runs the load routine between the corner picture and the end; a fault is logged and the screen stays with what it
   /// has.
   void load(const std::function<void()>& routine);
+
+  /// For load routines: one part of a load. A fault in it is logged as one of the load, which goes on after it.
+  void load_part(const std::function<void()>& part) const;
+  /// For load routines: puts the text of what is stored into a field. Where `text` raises a fault the field stands
+  /// empty, and counts as unread; see Field::show_stored.
+  void load_field(Field& field, const std::function<QString()>& text) const;
 
   ScreenFrame top;
   QVBoxLayout* body;  ///< where the editor lays its controls

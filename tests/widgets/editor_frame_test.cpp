@@ -208,6 +208,28 @@ TEST_F(EditorFrameTest, WriteFileWritesTheFileThatTheEditorSavesTo) {
   EXPECT_EQ(saved_to(SavesTo::no_file), std::pair(false, false));
 }
 
+TEST_F(EditorFrameTest, ALoadGoesOnAfterAPartThatCannotBeShown) {
+  editor->load_routine = [this] {
+    editor->frame.load_part([] { throw FaultError{FaultCode::overflow}; });
+    editor->frame.load_field(*editor->field, [] { return QStringLiteral("shown"); });
+  };
+  opened();
+  EXPECT_EQ(log(), (std::vector<std::string>{"FrmBare Form_load: Overflow"}));
+  EXPECT_EQ(editor->field->text(), QStringLiteral("shown"));
+  EXPECT_FALSE(editor->field->is_unread());
+}
+
+TEST_F(EditorFrameTest, AFieldWhoseNumberCannotBeShownStandsEmptyAndUnread) {
+  editor->field->show_text(QStringLiteral("of the record before"));
+  editor->load_routine = [this] {
+    editor->frame.load_field(*editor->field, []() -> QString { throw FaultError{FaultCode::type_mismatch}; });
+  };
+  opened();
+  EXPECT_EQ(log(), (std::vector<std::string>{"FrmBare Form_load: Type mismatch"}));
+  EXPECT_EQ(editor->field->text(), QString{});
+  EXPECT_TRUE(editor->field->is_unread());
+}
+
 TEST_F(EditorFrameTest, AScreenMayHaveOtherWordsInFrontOfItsFaults) {
   editor->frame.log_prefixes("Bare form_load: ", "Bare save: ");
   editor->load_routine = [] { throw FaultError{FaultCode::overflow}; };

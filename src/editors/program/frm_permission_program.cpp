@@ -3,6 +3,7 @@
 #include "core/codecs.h"
 #include "editors/form_grid.h"
 #include "editors/program/number_texts.h"
+#include "editors/store_field.h"
 #include "widgets/screen_text.h"
 
 namespace ecr {
@@ -65,14 +66,15 @@ FrmPermissionProgram::FrmPermissionProgram()
 void FrmPermissionProgram::load() {
   frame_.load([this] {
     for (const Place& place : places_) {
-      place.field->show_text(with_zeros(screen_text(bcds_to_number(PrgMode.*place.password)), digits));
+      place.field->show_stored(with_zeros(screen_text(bcds_to_number(PrgMode.*place.password)), digits));
     }
   });
 }
 
 void FrmPermissionProgram::save() {
   for (const Place& place : places_) {
-    number_to_bcds(PrgMode.*place.password, Decimal::from_text(page_bytes(place.field->text())));
+    store_number(*place.field, PrgMode.*place.password,
+                 [](const QString& text) { return Decimal::from_text(page_bytes(text)); });
   }
   frame_.write_file();
 }

@@ -262,6 +262,17 @@ TEST_F(FrmFCRatingSettingTest, AFaultInTheSaveIsLoggedUnderTheScreensOtherName) 
   EXPECT_EQ(image_file(), before);
 }
 
+TEST_F(FrmFCRatingSettingTest, ThePointDoesNotMakeAZeroOfARateThatCannotBeRead) {
+  in_memory(2).Rate.bytes = {0xFF, 1, 2, 3};
+  lay_down(PrgMode);
+  open_editor();
+  EXPECT_EQ(rate(2), QString{});
+  pick(decimals(2), 3);
+  EXPECT_EQ(rate(2), QString{});
+  save();
+  EXPECT_EQ(record(2).substr(10), bytes_of({3, 2, 0xFF, 1, 2, 3}));
+}
+
 TEST_F(FrmFCRatingSettingTest, AnyGoodRatesSurviveLoadAndSave) {
   Random random{15};
   for (int round = 0; round < 20; ++round) {

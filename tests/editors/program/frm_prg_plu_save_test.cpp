@@ -260,6 +260,48 @@ TEST_F(PluSave, ACorrectedSaveDoesWhatTheFailedOneWouldHaveDone) {
   EXPECT_EQ(item(4).SendFlag, 1) << "the mark of the change has outlived the failed save";
 }
 
+TEST_F(PluSave, PricesAndStockThatCannotBeReadStayAsTheyAre) {
+  item(2).Price1.bytes = {0x1A, 2, 3, 4};
+  item(2).Price2.bytes = {0xFF, 0, 0, 0};
+  item(2).Stock.bytes = {0xA0, 1, 2, 3, 4, 5};
+  item(2).Flags1 = 0x81;
+  const PluRecord stood = item(2);
+  open_editor();
+  go_to(2);
+  EXPECT_EQ(shown("E_Price1"), QString{});
+  EXPECT_EQ(shown("E_StockCount"), QString{});
+  enter("E_Name", QStringLiteral("Typed"));
+  save();
+  EXPECT_EQ(item(2).Name.view(), "Typed           ");
+  EXPECT_EQ(item(2).Price1, stood.Price1);
+  EXPECT_EQ(item(2).Price2, stood.Price2);
+  EXPECT_EQ(item(2).Stock, stood.Stock);
+  EXPECT_EQ(item(2).Flags1, stood.Flags1) << "the bits of prices stay with them";
+}
+
+TEST_F(PluSave, AnItemWhoseCodeCannotBeReadIsNotTakenForAnEmptyRow) {
+  item(3).Code.bytes = {0x3A, 0, 0, 0, 0, 0, 0, 0};
+  const PluRecord stood = item(3);
+  Write_PrgPlu();
+  open_editor();
+  const std::string before = file();
+  go_to(3);
+  EXPECT_EQ(shown("E_FreeCode"), QString{});
+  save();
+  EXPECT_EQ(log().back(), "FrmPrgPlu Salva: Type mismatch");
+  EXPECT_EQ(file(), before);
+  // Saves of other items leave it in the table.
+  save_code(1, QStringLiteral("12"));
+  EXPECT_EQ(PrgPlu.PluCount, 5);
+  const auto found = std::find_if(PrgPlu.Row.begin(), PrgPlu.Row.begin() + 5,
+                                  [&](const PluRecord& row) { return row.Code == stood.Code; });
+  ASSERT_NE(found, PrgPlu.Row.begin() + 5);
+  EXPECT_EQ(found->Name.view(), stood.Name.view());
+  // With a code of its own, or erased, it can be saved again.
+  save_code(static_cast<int>(found - PrgPlu.Row.begin()) + 1, QStringLiteral("35"));
+  EXPECT_EQ(codes(5), Lines({"12", "20", "35", "40", "50"}));
+}
+
 TEST_F(PluSave, AStockThatIsNoNumberStays) {
   Stock_To_Bcds("7", item(1).Stock);
   open_editor();
