@@ -161,7 +161,7 @@ NumberRules amount_rules(const Decimal& maximum) {
   rules.to_shown = [](const QString& raw) {
     const std::string text = page_bytes(raw);
     // What is no amount stays for the person to see, where Amount_Text would give nothing and a save would store zero.
-    static_cast<void>(Decimal::from_text(text));
+    static_cast<void>(Decimal::from_text(text).scaled(-Global::DecimalPoint));
     return screen_text(Amount_Text(text, Global::DecimalPoint));
   };
   return rules;

@@ -902,6 +902,41 @@ TEST_F(FrmDepartmentProgramTest, APriceThatIsNoNumberIsLoggedAndNothingIsWritten
   EXPECT_EQ(image_file(), before);
 }
 
+TEST_F(FrmDepartmentProgramTest, ASaveWithDecimalsThatNoAmountHasIsLoggedAndNothingIsWritten) {
+  open_editor();
+  const std::string before = image_file();
+  ASSERT_NE(record(1).substr(price_at), std::string(4, '\0')) << "a department that has a price";
+  for (const int decimals : {29, 100, 255}) {
+    Global::DecimalPoint = static_cast<std::uint8_t>(decimals);
+    open_again();
+    EXPECT_EQ(field("E_Price").text(), QString{}) << "no price is shown as 0";
+    enter("E_DeptName", QStringLiteral("ROLLS"));
+    save();
+    EXPECT_EQ(log().back(), "FrmDepartmentProgram Salva: Overflow") << decimals;
+    EXPECT_EQ(number().number(), 1);
+    EXPECT_EQ(image_file(), before);
+    EXPECT_EQ(file_bytes(PrgMode), before);
+    click("E_Price");
+    type(QStringLiteral("123"));
+    press(Qt::Key_Tab);
+    EXPECT_EQ(field("E_Price").text(), QStringLiteral("123")) << "it stays to be seen";
+    save();
+    EXPECT_EQ(log().back(), "FrmDepartmentProgram Salva: Overflow");
+    EXPECT_EQ(image_file(), before);
+  }
+}
+
+TEST_F(FrmDepartmentProgramTest, TheMostDecimalsThatAnAmountHasLoseNoDigit) {
+  number_to_bcds(in_memory(1).Price, "12345678");
+  lay_down(PrgMode);
+  Global::DecimalPoint = 28;
+  open_editor();
+  EXPECT_EQ(field("E_Price").text(), QStringLiteral("0.0000000000000000000012345678"));
+  save();
+  EXPECT_EQ(record(1).substr(price_at), "\x78\x56\x34\x12");
+  EXPECT_EQ(number().number(), 2);
+}
+
 TEST_F(FrmDepartmentProgramTest, AFileThatCannotBeWrittenFailsSilently) {
   open_editor();
   remove("Dati/PRG_MODE.BIN");

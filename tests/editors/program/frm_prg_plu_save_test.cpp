@@ -260,6 +260,19 @@ TEST_F(PluSave, ACorrectedSaveDoesWhatTheFailedOneWouldHaveDone) {
   EXPECT_EQ(item(4).SendFlag, 1) << "the mark of the change has outlived the failed save";
 }
 
+TEST_F(PluSave, DecimalsThatNoAmountHasEndTheSave) {
+  Global::DecimalPoint = 255;
+  open_editor();
+  const std::string before = file();
+  const std::string memory = table_bytes();
+  EXPECT_EQ(shown("E_Price1"), QString{});
+  enter("E_Name", QStringLiteral("Typed"));
+  save();
+  EXPECT_EQ(log().back(), "FrmPrgPlu Salva: Overflow");
+  EXPECT_EQ(file(), before);
+  EXPECT_EQ(table_bytes(), memory);
+}
+
 TEST_F(PluSave, PricesAndStockThatCannotBeReadStayAsTheyAre) {
   item(2).Price1.bytes = {0x1A, 2, 3, 4};
   item(2).Price2.bytes = {0xFF, 0, 0, 0};
