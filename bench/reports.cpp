@@ -102,7 +102,7 @@ void export_one(benchmark::State& state) {
     state.PauseTiming();
     remove_csv(number);
     state.ResumeTiming();
-    export_ReportEcr(number);
+    static_cast<void>(export_ReportEcr(number));
   }
   state.SetLabel(name_of(number));
 }
@@ -136,7 +136,7 @@ void remove_copy(std::uint8_t number) {
 std::string output_of(std::uint8_t number) {
   put_report(number);
   remove_csv(number);
-  export_ReportEcr(number);
+  static_cast<void>(export_ReportEcr(number));
   return installation().bytes("Report/" + name_of(number) + ".csv");
 }
 
@@ -158,7 +158,7 @@ void export_all(benchmark::State& state) {
     state.PauseTiming();
     for (const Report& report : exported_reports) remove_csv(report.number);
     state.ResumeTiming();
-    for (const Report& report : exported_reports) export_ReportEcr(report.number);
+    for (const Report& report : exported_reports) static_cast<void>(export_ReportEcr(report.number));
   }
 }
 

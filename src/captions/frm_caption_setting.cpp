@@ -131,7 +131,7 @@ void FrmCaptionSetting::save() {
     PrgMode.Caption[i].set(sostituzione_to_ecr(codes_of(short_captions_->caption(static_cast<int>(i) + 1))));
   }
   messages_->store();
-  Write_PrgMode();
+  frame_.write_file();
 }
 
 }  // namespace ecr

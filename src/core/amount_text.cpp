@@ -26,7 +26,8 @@ std::string stock_text(std::span<const std::uint8_t> field) {
   std::string text;
   guarded("Bcds_To_Stock: ", [&] {
     std::string digits = bcds_to_number(field);
-    const bool negative = !field.empty() && Decimal::from_text(digits) > sign_weight(field.size());
+    if (digits.empty()) return;
+    const bool negative = Decimal::from_text(digits) > sign_weight(field.size());
     if (negative) {
       digits.erase(0, 1);
       text = "-";

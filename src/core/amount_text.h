@@ -13,10 +13,12 @@
 namespace ecr {
 
 /// A stored whole number with its decimals: "1234" with 2 gives "12.34". With 0 decimals the text as it is, leading
-/// zeros included. A text that is no number gives an empty one and a line in the log.
+/// zeros included. A text that is no number gives an empty one and a line in the log; so does any text with more than
+/// 28 decimals.
 [[nodiscard]] std::string Amount_Text(std::string_view value, int decimals);
 
-/// A signed field as text. Quantities come in their shortest form.
+/// A signed field as text. Quantities come in their shortest form. A field that cannot be read gives an empty text and
+/// the line in the log that bcds_to_number leaves.
 [[nodiscard]] std::string Bcds_To_Stock(std::span<const std::uint8_t> field);
 
 /// The same behind what stands in `out`, without a text of its own for each field.

@@ -141,6 +141,7 @@ Decimal Decimal::leading(std::string_view text) {
 }
 
 Decimal Decimal::scaled(int exponent) const {
+  if (exponent < -max_digits || exponent > max_digits) throw FaultError{FaultCode::overflow};
   return from_digits(negative_, digits(), scale_ - exponent);
 }
 

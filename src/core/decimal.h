@@ -30,7 +30,8 @@ class Decimal {
   /// than 28 give the largest number that fits.
   [[nodiscard]] static Decimal leading(std::string_view text);
 
-  /// Multiplied by ten to the power of `exponent`, which may be negative. FaultError(overflow) beyond 28 digits.
+  /// Multiplied by ten to the power of `exponent`, -28 to 28. FaultError(overflow) beyond 28 digits in front of the
+  /// point, and for any other exponent, whatever the number: there is no such power to multiply or divide by.
   [[nodiscard]] Decimal scaled(int exponent) const;
 
   [[nodiscard]] Decimal operator+(const Decimal& other) const;

@@ -2,8 +2,6 @@
 
 #include <string>
 
-#include "image/prg_mode.h"
-
 namespace ecr {
 
 OptionScreen::OptionScreen(const OptionScreenTable& table)
@@ -16,10 +14,10 @@ OptionScreen::OptionScreen(const OptionScreenTable& table)
   frame_.body->addStretch(1);
   frame_.tab_through({lists_.lists().begin(), lists_.lists().end()});
   frame_.log_prefixes(std::string{table.load_prefix}, std::string{table.save_prefix});
-  if (table.writes == SaveWrites::nothing) frame_.saves_to_no_file();
-  frame_.on_save([this, writes = table.writes] {
+  frame_.saves_to(table.saves_to);
+  frame_.on_save([this] {
     lists_.save();
-    if (writes == SaveWrites::the_image_file) Write_PrgMode();
+    frame_.write_file();
   });
 }
 

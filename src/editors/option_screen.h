@@ -10,12 +10,6 @@
 
 namespace ecr {
 
-enum class SaveWrites : std::uint8_t {
-  the_image_file,
-  /// The working image alone changes; the file follows when another editor saves.
-  nothing,
-};
-
 struct OptionScreenTable {
   std::string_view name;  ///< the screen's, as the system has it
   Key title{};
@@ -26,7 +20,7 @@ struct OptionScreenTable {
   /// In front of a fault in the run log.
   std::string_view load_prefix;
   std::string_view save_prefix;
-  SaveWrites writes = SaveWrites::the_image_file;
+  SavesTo saves_to = SavesTo::image_file;
 };
 
 class OptionScreen : public Screen {

@@ -289,7 +289,7 @@ void FrmAdvancedSetting::save() {
     }
   }
   PrgMode.KeyLayout = layout_.codes();
-  Write_PrgMode();
+  frame_.write_file();
 }
 
 }  // namespace ecr

@@ -56,6 +56,7 @@ enum class OwnText : std::uint8_t {
   not_printed,
   save_as_pdf,
   not_written,
+  reports_not_written,  ///< %1: names of files
   // Headings of the viewer's tables, where the files have none
   total,
   sum,

@@ -99,30 +99,33 @@ void append_field(std::string& out, ColumnKind kind, std::span<const std::uint8_
   }
 }
 
-/// The output file: bytes are appended in large pieces. A piece that cannot be written is lost without a word.
+/// The output file: bytes are appended in large pieces. From the first piece on that cannot be written nothing is.
 class Output {
  public:
-  explicit Output(std::string path) : path_{std::move(path)} {
+  explicit Output(std::string path) : path_{std::move(path)}, fault_{append_file(path_, {})} {
     text.reserve(write_step + write_step / 4);
-    static_cast<void>(append_file(path_, {}));
   }
-  Output(const Output&) = delete;
-  Output& operator=(const Output&) = delete;
-  ~Output() { write(); }
 
   void write_if_large() {
     if (text.size() >= write_step) write();
+  }
+
+  /// Writes what is left. Answers the fault that ended the writing, if there was one.
+  Fault finish() {
+    write();
+    return fault_;
   }
 
   std::string text;
 
  private:
   void write() {
-    if (!text.empty()) static_cast<void>(append_file(path_, text));
+    if (!text.empty() && !fault_.stands()) fault_ = append_file(path_, text);
     text.clear();
   }
 
   std::string path_;
+  Fault fault_;
 };
 
 void write_lines(const ReportLayout& layout, FileReader& file, Output& out) {
@@ -164,19 +167,22 @@ void append_report_line(std::string& out, const ReportLayout& layout, std::span<
   out += line_end;
 }
 
-void export_ReportEcr(std::uint8_t number) {
+CsvOutcome export_ReportEcr(std::uint8_t number) {
   const std::string name = report_file(number);
   if (name.empty()) {
     memo_log("export_ReportEcr. file per report " + std::to_string(number) + " non trovato");
-    return;
+    return {};
   }
   FileReader file{Global::PathDati + name};
-  Output out{Global::PathReport + name.substr(0, name.size() - 3) + "csv"};
+  const std::string csv_name = name.substr(0, name.size() - 3) + "csv";
+  Output out{Global::PathReport + csv_name};
   const ReportLayout* layout = report_layout(number);
-  if (layout == nullptr || layout->columns.empty()) return;
-  out.text = report_header(*layout);
-  out.text += line_end;
-  write_lines(*layout, file, out);
+  if (layout != nullptr && !layout->columns.empty()) {
+    out.text = report_header(*layout);
+    out.text += line_end;
+    write_lines(*layout, file, out);
+  }
+  return {csv_name, out.finish()};
 }
 
 }  // namespace ecr

@@ -5,13 +5,13 @@
 #include <charconv>
 #include <limits>
 #include <string>
+#include <utility>
 
 #include "core/clock.h"
 #include "core/decimal.h"
 #include "core/run_log.h"
 #include "link/error_tables.h"
 #include "link/report_fetch.h"
-#include "reports/export_report.h"
 
 namespace ecr {
 namespace {
@@ -26,13 +26,14 @@ std::string seconds_text(double seconds) {
   return {text.data(), end.ptr};
 }
 
-void export_one(std::uint8_t number, std::int32_t lowest_quantity) {
+CsvOutcome export_one(std::uint8_t number, std::int32_t lowest_quantity) {
   const double begun = now().second_of_day;
-  if (!Receive_ReportEcr(number, lowest_quantity)) return;
-  export_ReportEcr(number);
+  if (!Receive_ReportEcr(number, lowest_quantity)) return {};
+  CsvOutcome outcome = export_ReportEcr(number);
   double passed = now().second_of_day - begun;
   if (passed < 0) passed += seconds_of_a_day;
   memo_log("Time for download report " + std::to_string(number) + " is:" + seconds_text(passed));
+  return outcome;
 }
 
 }  // namespace
@@ -42,15 +43,24 @@ std::int32_t lowest_quantity_of(std::string_view typed) {
       std::clamp<std::int64_t>(leading_number(typed), 0, std::numeric_limits<std::int32_t>::max()));
 }
 
-void export_reports(const std::vector<std::uint8_t>& numbers, std::int32_t lowest_quantity,
-                    const std::function<void(std::uint8_t)>& begins) {
-  for (const std::uint8_t number : numbers) {
-    begins(number);
-    export_one(number, lowest_quantity);
-  }
+std::vector<CsvOutcome> export_reports(const std::vector<std::uint8_t>& numbers, std::int32_t lowest_quantity,
+                                       const std::function<void(std::uint8_t)>& begins) {
   // Dealers look at the release that is left behind in this way.
-  begins(FileNumber::release);
-  export_one(FileNumber::release, lowest_quantity);
+  std::vector<std::uint8_t> all = numbers;
+  all.push_back(FileNumber::release);
+  std::vector<CsvOutcome> unwritten;
+  for (const std::uint8_t number : all) {
+    begins(number);
+    CsvOutcome outcome = export_one(number, lowest_quantity);
+    if (outcome.fault.stands()) unwritten.push_back(std::move(outcome));
+  }
+  if (!unwritten.empty()) {
+    const Fault& last = unwritten.back().fault;
+    std::string line = "C_Export_click err: " + std::to_string(last.number()) + " Desc: ";
+    line += last.description();
+    memo_log(line);
+  }
+  return unwritten;
 }
 
 }  // namespace ecr

@@ -23,6 +23,7 @@ FrmReportExport::FrmReportExport()
     : Screen{QStringLiteral("FrmReportExport")},
       frame_{*this, ScreenFrame::Corner::picture},
       Txt_MPS_Min{new Field{QStringLiteral("Txt_MPS_Min"), this}},
+      L_Progress{make_label(QStringLiteral("L_Progress"), this)},
       C_Annulla{new CommandButton{QStringLiteral("C_Annulla"), this}},
       C_View{new CommandButton{QStringLiteral("C_View"), this}},
       C_Salva{new CommandButton{QStringLiteral("C_Salva"), this}},
@@ -68,7 +69,10 @@ FrmReportExport::FrmReportExport()
   level->addStretch(1);
   grid->addLayout(level, 6, 1);
   frame_.body->addSpacing(8);
+  L_Progress->setTextFormat(Qt::PlainText);
+  L_Progress->setWordWrap(true);
   frame_.body->addLayout(grid);
+  frame_.body->addWidget(L_Progress);
   frame_.body->addStretch(1);
 
   captions_.add(*C_Annulla, Key::FRM_ALL_C_ANNULLA, "Back");
@@ -116,13 +120,19 @@ void FrmReportExport::run_export() {
   for (const auto& [number, box] : Chk_Report) {
     if (box->isChecked() && box->isEnabled()) numbers.push_back(number);
   }
+  L_Progress->clear();
   const BusyPointer busy;
   // After the reports the release follows.
   WaitSteps steps{static_cast<int>(numbers.size()) + 1};
-  export_reports(numbers, lowest_quantity_of(page_bytes(Txt_MPS_Min->text())), [this, &steps](std::uint8_t number) {
-    const auto box = Chk_Report.find(number);
-    steps.next(box == Chk_Report.end() ? QString{} : box->second->text());
-  });
+  const std::vector<CsvOutcome> failed = export_reports(
+      numbers, lowest_quantity_of(page_bytes(Txt_MPS_Min->text())), [this, &steps](std::uint8_t number) {
+        const auto box = Chk_Report.find(number);
+        steps.next(box == Chk_Report.end() ? QString{} : box->second->text());
+      });
+  if (failed.empty()) return;
+  QStringList files;
+  for (const CsvOutcome& outcome : failed) files.append(screen_text(outcome.file));
+  L_Progress->setText(own_words(OwnText::reports_not_written).arg(files.join(QStringLiteral(", "))));
 }
 
 }  // namespace ecr

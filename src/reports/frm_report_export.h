@@ -31,6 +31,7 @@ class FrmReportExport : public Screen {
   QLabel* L_MPS_Level;
   Field* Txt_MPS_Min;
   QLabel* L_MPS_Min;
+  QLabel* L_Progress;  ///< which files the last export could not write
   CommandButton* C_Annulla;
   CommandButton* C_View;
   CommandButton* C_Salva;

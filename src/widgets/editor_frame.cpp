@@ -7,7 +7,9 @@
 #include "core/global.h"
 #include "core/run_log.h"
 #include "core/shell.h"
+#include "image/programming_copy.h"
 #include "link/transfer.h"
+#include "widgets/field.h"
 #include "widgets/glyphs.h"
 #include "widgets/look.h"
 #include "widgets/screen_text.h"
@@ -44,8 +46,19 @@ EditorFrame::EditorFrame(Screen& screen, ScreenFrame::Corner corner)
   top.body->addLayout(bar);
 }
 
-void EditorFrame::on_save(std::function<void()> save) {
+void EditorFrame::on_save(std::function<void()> save, AfterFault after_fault) {
   save_ = std::move(save);
+  after_fault_ = after_fault;
+}
+
+void EditorFrame::write_file() {
+  if (saves_to_ == SavesTo::image_file) Write_PrgMode();
+  if (saves_to_ == SavesTo::item_file) Write_PrgPlu();
+  save_stands_ = true;
+}
+
+QString EditorFrame::file_name() const {
+  return saves_to_ == SavesTo::item_file ? QStringLiteral("PRG_PLU.BIN") : QStringLiteral("PRG_MODE.BIN");
 }
 
 void EditorFrame::send_with(std::function<bool()> send, WhileSending buttons) {
@@ -64,17 +77,32 @@ void EditorFrame::tab_through(std::vector<QWidget*> controls) const {
 }
 
 void EditorFrame::load(const std::function<void()>& routine) {
-  top.load_band(file_);
+  const QString file = file_name();
+  top.load_band(file);
   C_Salva->setIcon(glyph(Glyph::to_file, C_Salva->palette().color(QPalette::HighlightedText)));
   C_Invia_Ecr->setIcon(glyph(Glyph::to_register, text_plain()));
-  if (saves_to_file_) C_Salva->setToolTip(QStringLiteral("→ ") + screen_text(Global::PathDati) + file_);
-  C_Invia_Ecr->setToolTip(file_ + QStringLiteral(" → ") + port_and_model());
+  if (saves_to_ != SavesTo::no_file) C_Salva->setToolTip(QStringLiteral("→ ") + screen_text(Global::PathDati) + file);
+  C_Invia_Ecr->setToolTip(file + QStringLiteral(" → ") + port_and_model());
   captions.lay();
   guarded(load_prefix_, routine);
 }
 
+void EditorFrame::load_part(const std::function<void()>& part) const {
+  guarded(load_prefix_, part);
+}
+
+void EditorFrame::load_field(Field& field, const std::function<QString()>& text) const {
+  QString shown;
+  load_part([&] { shown = text(); });
+  field.show_stored(shown);
+}
+
 void EditorFrame::run_save() {
-  if (save_) guarded(save_prefix_, save_);
+  if (!save_) return;
+  const ProgrammingCopy before;
+  save_stands_ = false;
+  const bool done = guarded(save_prefix_, save_);
+  if (!done && !save_stands_ && after_fault_ == AfterFault::memory_put_back) before.put_back();
 }
 
 void EditorFrame::enable_buttons(bool enabled) {

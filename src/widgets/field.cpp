@@ -37,6 +37,7 @@ Field::Field(const QString& name, QWidget* parent) : QLineEdit{parent} {
   setObjectName(name);
   connect(this, &QLineEdit::textChanged, this, [this] {
     change_was_typed_ = std::exchange(key_pressed_, false);
+    unread_ = false;
     run(change_);
   });
 }
@@ -53,6 +54,11 @@ void Field::limit_typing(int characters) {
 void Field::show_text(const QString& text) {
   if (limit_ > 0) setMaxLength(std::max(limit_, static_cast<int>(text.size())));
   setText(text);
+}
+
+void Field::show_stored(const QString& text) {
+  show_text(text);
+  unread_ = text.isEmpty();
 }
 
 void Field::cut_last() {
@@ -74,7 +80,7 @@ void Field::focusInEvent(QFocusEvent* event) {
   QLineEdit::focusInEvent(event);
   if (inside_ || !is_move_between_controls(*event)) return;
   inside_ = true;
-  run(entered_);
+  if (!unread_) run(entered_);
   // The press that brought the focus would put the cursor in the middle of what was just selected.
   select_behind_press_ = event->reason() == Qt::MouseFocusReason && hasSelectedText();
 }
@@ -89,7 +95,8 @@ void Field::focusOutEvent(QFocusEvent* event) {
   const Screen* screen = Screen::of(this);
   if (!inside_ || !is_move_between_controls(*event) || (screen != nullptr && screen->is_unloading())) return;
   inside_ = false;
-  run(left_);
+  // Who merely passes through has not decided on the 0 that an empty field stands for.
+  if (!unread_) run(left_);
 }
 
 void Field::keyPressEvent(QKeyEvent* event) {
@@ -157,7 +164,7 @@ NumberRules amount_rules(const Decimal& maximum) {
   rules.to_shown = [](const QString& raw) {
     const std::string text = page_bytes(raw);
     // What is no amount stays for the person to see, where Amount_Text would give nothing and a save would store zero.
-    static_cast<void>(Decimal::from_text(text));
+    static_cast<void>(Decimal::from_text(text).scaled(-Global::DecimalPoint));
     return screen_text(Amount_Text(text, Global::DecimalPoint));
   };
   return rules;

@@ -39,6 +39,13 @@ class Field : public QLineEdit {
   /// Puts a text in as the program does; change handlers run.
   void show_text(const QString& text);
 
+  /// The same with a number as the programming holds it. An empty text says that it could not be read: no number is
+  /// shown as one. The field is unread then, until its text changes; entering and leaving it leave it so.
+  void show_stored(const QString& text);
+  /// Whether the field stands empty because what is stored could not be read. A save leaves the bytes of such a field
+  /// alone: nobody has decided what they should be.
+  [[nodiscard]] bool is_unread() const { return unread_; }
+
   /// Drops the last character and keeps the cursor where it was, or at the end.
   void cut_last();
 
@@ -68,6 +75,7 @@ class Field : public QLineEdit {
   bool change_was_typed_ = false;
   bool inside_ = false;
   bool select_behind_press_ = false;
+  bool unread_ = false;
 };
 
 /// The number field of the frame: digits only; a value above `maximum` shows MsgValueTooHigh and loses its last

@@ -82,6 +82,17 @@ TEST_F(AmountText, ATextThatIsNoNumberGivesNoAmountAndALine) {
   EXPECT_EQ(log(), (std::vector<std::string>{"Amount_Text: Type mismatch", "Amount_Text: Type mismatch"}));
 }
 
+TEST_F(AmountText, MoreDecimalsThan28GiveNoAmountAndALine) {
+  EXPECT_EQ(Amount_Text("99999999", 28), "0.0000000000000000000099999999");
+  EXPECT_TRUE(log().empty());
+  EXPECT_EQ(Amount_Text("99999999", 29), "") << "a price of 0 would be a wrong one";
+  EXPECT_EQ(Amount_Text("0", 255), "");
+  Global::DecimalPoint = 255;
+  EXPECT_EQ(Bcds_To_Stock(field_of(1234, 8)), "");
+  EXPECT_EQ(log(),
+            (std::vector<std::string>{"Amount_Text: Overflow", "Amount_Text: Overflow", "Amount_Text: Overflow"}));
+}
+
 TEST_F(AmountText, RandomAmountsAgreeWithWholeNumberArithmetic) {
   Random random{51001};
   for (int round = 0; round < 5000; ++round) {
@@ -162,9 +173,13 @@ TEST_F(AmountText, TheDecimalsInForceDoNotTouchQuantities) {
   EXPECT_EQ(Bcds_To_Stock(field_of(15000, 6)), "1.5");
 }
 
-TEST_F(AmountText, AFieldThatCannotBeReadGivesNoTextAndIsLogged) {
+TEST_F(AmountText, AFieldThatCannotBeReadGivesNoTextAndOneLine) {
   EXPECT_EQ(Bcds_To_Stock(Bytes{0xAA, 0x00}), "");
-  EXPECT_EQ(log(), (std::vector<std::string>{"bcds_to_number Type mismatch", "Bcds_To_Stock: Type mismatch"}));
+  EXPECT_EQ(log(), std::vector<std::string>{"bcds_to_number Type mismatch"});
+  Global::DecimalPoint = 2;
+  EXPECT_EQ(Bcds_To_Stock(Bytes{0x0F, 0, 0, 0, 0, 0, 0, 0}), "") << "an amount";
+  EXPECT_EQ(Bcds_To_Stock(Bytes{}), "") << "there is nothing to be read";
+  EXPECT_EQ(log().size(), 2U);
 }
 
 TEST_F(AmountText, AFieldWithAnInvalidHighByteGivesTheNumberBelowIt) {

@@ -312,12 +312,27 @@ TEST(DecimalNumber, ScalingMovesThePoint) {
 TEST(DecimalNumber, ScalingOverflowsAndRoundsAtItsEnds) {
   EXPECT_EQ(Decimal{1}.scaled(27).text(), "1" + std::string(27, '0'));
   EXPECT_THROW(static_cast<void>(Decimal{1}.scaled(28)), FaultError);
-  EXPECT_THROW(static_cast<void>(Decimal{1}.scaled(1000)), FaultError);
-  EXPECT_EQ(Decimal{0}.scaled(1000), Decimal{0});
-  EXPECT_EQ(Decimal{445}.scaled(-30).text(), "0.0000000000000000000000000004");
-  EXPECT_EQ(Decimal{9}.scaled(-29).text(), "0.0000000000000000000000000001");
-  EXPECT_EQ(Decimal{1}.scaled(-1000), Decimal{0});
+  EXPECT_EQ(Decimal{0}.scaled(28), Decimal{0});
+  EXPECT_EQ(Decimal{445}.scaled(-20).scaled(-10).text(), "0.0000000000000000000000000004");
+  EXPECT_EQ(Decimal{9}.scaled(-28).scaled(-1).text(), "0.0000000000000000000000000001");
+  EXPECT_EQ(Decimal{4}.scaled(-28).scaled(-1), Decimal{0});
   EXPECT_EQ(Decimal{std::numeric_limits<std::int64_t>::min()}.text(), "-9223372036854775808");
+}
+
+TEST(DecimalNumber, ThereIsNoPowerOfTenBeyondThe28th) {
+  for (const int exponent : {29, 30, 255, 1000, std::numeric_limits<int>::max()}) {
+    for (const std::int64_t number : {0, 1, -1, 99999999}) {
+      EXPECT_THROW(static_cast<void>(Decimal{number}.scaled(exponent)), FaultError) << number << ", " << exponent;
+      EXPECT_THROW(static_cast<void>(Decimal{number}.scaled(-exponent)), FaultError) << number << ", " << exponent;
+    }
+  }
+  EXPECT_THROW(static_cast<void>(Decimal{1}.scaled(std::numeric_limits<int>::min())), FaultError);
+}
+
+TEST(DecimalNumber, WhatIsScaledDownByUpTo28ComesBackWhole) {
+  for (int exponent = 0; exponent <= 28; ++exponent) {
+    EXPECT_EQ(Decimal{99999999}.scaled(-exponent).scaled(exponent), Decimal{99999999}) << exponent;
+  }
 }
 
 TEST(DecimalNumber, RandomSumsAgreeWithWholeNumberArithmetic) {

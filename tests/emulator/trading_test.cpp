@@ -114,7 +114,7 @@ ReportTable TradingTest::table(std::uint8_t number) const {
   static_cast<void>(fetched(number));
   const std::string csv = "Report/" + std::string{report_name(number)} + ".csv";
   if (exists(csv)) remove(csv);
-  export_ReportEcr(number);
+  static_cast<void>(export_ReportEcr(number));
   const std::string text = bytes(csv);
   ReportTable table;
   std::vector<std::string> headings;

@@ -191,7 +191,7 @@ TEST_F(ExportReport, TheDoubleClerkReportHas64ValuesUnder73Names) {
 // Files
 
 TEST_F(ExportReport, AMissingReportIsLoggedAndMakesNoFile) {
-  for (int number = 3; number <= 22; ++number) export_ReportEcr(static_cast<std::uint8_t>(number));
+  for (int number = 3; number <= 22; ++number) static_cast<void>(export_ReportEcr(static_cast<std::uint8_t>(number)));
   const Lines said = log();
   ASSERT_EQ(said.size(), 20U);
   EXPECT_EQ(said[0], "export_ReportEcr. file per report 3 non trovato");
@@ -201,8 +201,8 @@ TEST_F(ExportReport, AMissingReportIsLoggedAndMakesNoFile) {
 
 TEST_F(ExportReport, ANumberBeyondTheTableFindsNoFile) {
   write("Dati/ANY.bin", "x");
-  export_ReportEcr(25);
-  export_ReportEcr(255);
+  static_cast<void>(export_ReportEcr(25));
+  static_cast<void>(export_ReportEcr(255));
   EXPECT_EQ(log(), (Lines{"export_ReportEcr. file per report 25 non trovato",
                           "export_ReportEcr. file per report 255 non trovato"}));
   EXPECT_TRUE(files_matching(Global::PathReport, "*").empty());
@@ -210,7 +210,7 @@ TEST_F(ExportReport, ANumberBeyondTheTableFindsNoFile) {
 
 TEST_F(ExportReport, TheReleaseFileLeavesAnEmptyFileWhateverTheCaseOfItsName) {
   write("Dati/RELEASE.BIN", "banner");
-  export_ReportEcr(22);
+  static_cast<void>(export_ReportEcr(22));
   EXPECT_TRUE(exists("Report/RELEASE.csv"));
   EXPECT_EQ(bytes("Report/RELEASE.csv"), "");
   EXPECT_TRUE(log().empty());
@@ -218,41 +218,41 @@ TEST_F(ExportReport, TheReleaseFileLeavesAnEmptyFileWhateverTheCaseOfItsName) {
 
 TEST_F(ExportReport, TheOlderReleaseFileDoesNotMatch) {
   write("Dati/RELEA.BIN", "banner");
-  export_ReportEcr(22);
+  static_cast<void>(export_ReportEcr(22));
   EXPECT_EQ(log(), Lines{"export_ReportEcr. file per report 22 non trovato"});
 }
 
 TEST_F(ExportReport, TheNameIsMatchedByItsBeginning) {
   write("Dati/FINANCIAL123.bin", "");
-  export_ReportEcr(4);
+  static_cast<void>(export_ReportEcr(4));
   EXPECT_TRUE(exists("Report/FINANCIAL123.csv"));
   remove("Dati/FINANCIAL123.bin");
   // So the second financial report answers for the first one where that is missing.
   write("Dati/FINANCIAL2.bin", "");
-  export_ReportEcr(4);
+  static_cast<void>(export_ReportEcr(4));
   EXPECT_TRUE(exists("Report/FINANCIAL2.csv"));
 }
 
 TEST_F(ExportReport, TheFirstFileByNameIsTaken) {
   write("Dati/FINANCIAL.bin", packed("100", 8));
   write("Dati/FINANCIAL2.bin", packed("200", 8));
-  export_ReportEcr(4);
+  static_cast<void>(export_ReportEcr(4));
   EXPECT_TRUE(exists("Report/FINANCIAL.csv"));
   EXPECT_FALSE(exists("Report/FINANCIAL2.csv"));
 }
 
 TEST_F(ExportReport, ASecondExportAppends) {
   write("Dati/TIME.bin", std::string(240, '\0'));
-  export_ReportEcr(12);
+  static_cast<void>(export_ReportEcr(12));
   const std::string once = bytes("Report/TIME.csv");
-  export_ReportEcr(12);
+  static_cast<void>(export_ReportEcr(12));
   EXPECT_EQ(bytes("Report/TIME.csv"), once + once);
 }
 
 TEST_F(ExportReport, TheReportFileStaysAsItIs) {
   const std::string file = packed("42", 2) + zeros;
   write("Dati/TIME.bin", file);
-  export_ReportEcr(12);
+  static_cast<void>(export_ReportEcr(12));
   EXPECT_EQ(bytes("Dati/TIME.bin"), file);
 }
 
@@ -269,11 +269,24 @@ TEST_F(ExportReport, ALongReportIsReadNoFurtherThanItsLayout) {
   EXPECT_EQ(lines(20, std::string(200000, '\0')).size(), 3001U);
 }
 
-TEST_F(ExportReport, AnOutputThatCannotBeWrittenIsPassedOver) {
+TEST_F(ExportReport, AnOutputThatCannotBeWrittenIsAnsweredWithItsFault) {
   make_folder("Report/TIME.csv");
   write("Dati/TIME.bin", "");
-  export_ReportEcr(12);
+  const CsvOutcome outcome = export_ReportEcr(12);
+  EXPECT_EQ(outcome.file, "TIME.csv");
+  EXPECT_EQ(outcome.fault.code, FaultCode::path_access);
   EXPECT_TRUE(log().empty());
+}
+
+TEST_F(ExportReport, WhatIsWrittenIsAnsweredWithoutAFault) {
+  write("Dati/TIME.bin", "");
+  write("Dati/RELEASE.BIN", "banner");
+  EXPECT_EQ(export_ReportEcr(12).file, "TIME.csv");
+  EXPECT_FALSE(export_ReportEcr(12).fault.stands());
+  EXPECT_EQ(export_ReportEcr(22).file, "RELEASE.csv");
+  EXPECT_FALSE(export_ReportEcr(22).fault.stands());
+  EXPECT_EQ(export_ReportEcr(3).file, "") << "there is no such report";
+  EXPECT_FALSE(export_ReportEcr(3).fault.stands());
 }
 
 TEST_F(ExportReport, TheStockOfFewItemsHasAsManyLinesAsItsSizeSays) {

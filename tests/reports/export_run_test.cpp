@@ -1,5 +1,6 @@
 #include "reports/export_run.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
@@ -16,10 +17,12 @@ class ExportRun : public ReportTest {
   ExportRun() { Global::ComPort = 4; }
 
   void run(const std::vector<std::uint8_t>& numbers, std::int32_t lowest_quantity = 0) {
-    export_reports(numbers, lowest_quantity, [this](std::uint8_t number) { begun.push_back(number); });
+    unwritten =
+        export_reports(numbers, lowest_quantity, [this](std::uint8_t number) { begun.push_back(number); });
   }
 
   std::vector<int> begun;
+  std::vector<CsvOutcome> unwritten;
 };
 
 TEST_F(ExportRun, FetchesAndDecodesEachAndEndsWithTheRelease) {
@@ -95,6 +98,45 @@ TEST_F(ExportRun, LogsAReportThatWasDeliveredUnderAnotherName) {
   link().deliveries[22] = {"RELEA.BIN", "banner"};
   run({});
   EXPECT_EQ(log(), (Lines{"export_ReportEcr. file per report 22 non trovato", "Time for download report 22 is:0"}));
+}
+
+TEST_F(ExportRun, AFileThatCannotBeWrittenIsLoggedAtTheEndAndAnswered) {
+  link().deliveries[3] = {"C-I-D.bin", ""};
+  link().deliveries[12] = {"TIME.bin", ""};
+  link().deliveries[22] = {"RELEASE.BIN", "banner"};
+  make_folder("Report/C-I-D.csv");
+  run({3, 12});
+  EXPECT_TRUE(exists("Report/TIME.csv")) << "the others are written";
+  EXPECT_EQ(log(),
+            (Lines{"Time for download report 3 is:0", "Time for download report 12 is:0",
+                   "Time for download report 22 is:0", "C_Export_click err: 75 Desc: Path or file access error"}));
+  ASSERT_EQ(unwritten.size(), 1U);
+  EXPECT_EQ(unwritten[0].file, "C-I-D.csv");
+  EXPECT_EQ(unwritten[0].fault.number(), 75);
+}
+
+TEST_F(ExportRun, OfSeveralFaultsTheLastOneIsLogged) {
+  link().deliveries[3] = {"C-I-D.bin", ""};
+  link().deliveries[12] = {"TIME.bin", ""};
+  link().deliveries[22] = {"RELEASE.BIN", "banner"};
+  make_folder("Report/C-I-D.csv");
+  make_folder("Report/TIME.csv");
+  run({3, 12});
+  const Lines said = log();
+  EXPECT_EQ(
+      std::count_if(said.begin(), said.end(), [](const std::string& line) { return line.starts_with("C_Export"); }), 1);
+  EXPECT_EQ(said.back(), "C_Export_click err: 75 Desc: Path or file access error");
+  ASSERT_EQ(unwritten.size(), 2U);
+  EXPECT_EQ(unwritten[0].file, "C-I-D.csv");
+  EXPECT_EQ(unwritten[1].file, "TIME.csv");
+}
+
+TEST_F(ExportRun, ARunInWhichAllIsWrittenLogsNoFault) {
+  link().deliveries[3] = {"C-I-D.bin", ""};
+  link().deliveries[22] = {"RELEASE.BIN", "banner"};
+  run({3});
+  EXPECT_TRUE(unwritten.empty());
+  EXPECT_EQ(log(), (Lines{"Time for download report 3 is:0", "Time for download report 22 is:0"}));
 }
 
 }  // namespace

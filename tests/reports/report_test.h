@@ -56,7 +56,7 @@ class ReportTest : public InstallationTest {
     const std::string csv = "Report/" + name_of(number) + ".csv";
     if (exists(csv)) remove(csv);
     write("Dati/" + name_of(number) + ".bin", file);
-    export_ReportEcr(number);
+    EXPECT_FALSE(export_ReportEcr(number).fault.stands());
     return bytes(csv);
   }
 

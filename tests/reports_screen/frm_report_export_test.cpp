@@ -170,6 +170,37 @@ TEST_F(FrmReportExportTest, AnExportSavesNoTicksAndTellsNobody) {
   EXPECT_TRUE(watched.boxes.empty());
 }
 
+TEST_F(FrmReportExportTest, FilesThatCannotBeWrittenAreNamedOnTheScreenUntilTheNextExport) {
+  link().deliveries[3] = {"C-I-D.bin", ""};
+  link().deliveries[12] = {"TIME.bin", ""};
+  make_folder("Report/C-I-D.csv");
+  make_folder("Report/TIME.csv");
+  open_screen();
+  EXPECT_EQ(caption("L_Progress"), QString{});
+  click("Chk_Report(3)");
+  click("Chk_Report(12)");
+  click("C_Export");
+  EXPECT_EQ(caption("L_Progress"),
+            QStringLiteral("Not written: C-I-D.csv, TIME.csv. Another program may have the file open."));
+  EXPECT_EQ(log().back(), "C_Export_click err: 75 Desc: Path or file access error");
+  EXPECT_TRUE(watched.boxes.empty());
+  remove("Report/C-I-D.csv");
+  remove("Report/TIME.csv");
+  click("C_Export");
+  EXPECT_EQ(caption("L_Progress"), QString{});
+  EXPECT_TRUE(exists("Report/C-I-D.csv"));
+}
+
+TEST_F(FrmReportExportTest, TheWordsForAFileThatCannotBeWrittenFollowTheLanguage) {
+  LanguageNumber = 3;
+  make_folder("Report/RELEASE.csv");
+  open_screen();
+  click("C_Export");
+  EXPECT_EQ(caption("L_Progress"),
+            QStringLiteral("Nicht geschrieben: RELEASE.csv. Vielleicht hat ein anderes Programm die Datei geöffnet."));
+  LanguageNumber = 0;
+}
+
 TEST_F(FrmReportExportTest, TheLowestQuantityStartsAtZeroEachTime) {
   open_screen();
   EXPECT_EQ(field("Txt_MPS_Min").text(), QStringLiteral("0"));

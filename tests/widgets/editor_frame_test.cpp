@@ -7,6 +7,7 @@
 #include "core/catalogue.h"
 #include "core/fault.h"
 #include "core/global.h"
+#include "image/prg_plu.h"
 #include "support_qt/screen_test.h"
 
 namespace ecr::test {
@@ -128,6 +129,105 @@ TEST_F(EditorFrameTest, SaveRunsItsRoutineAndLogsItsFaults) {
   EXPECT_EQ(log(), (std::vector<std::string>{"FrmBare Salva: Overflow"}));
   click("C_Salva");
   EXPECT_EQ(saved, 3) << "the screen goes on after a fault";
+}
+
+TEST_F(EditorFrameTest, ASaveThatEndsWithAFaultLeavesNothingInMemory) {
+  PrgPlu.PluCount = 2;
+  PrgPlu.Row[1].LinkDept = 0x12;
+  const std::string image = file_bytes(PrgMode);
+  const std::string on_disk = image_file();
+  editor->frame.on_save([&] {
+    PrgMode.Perm0.bytes[0] ^= 0xFF;
+    PrgMode.KeyLayout.back() ^= 0xFF;
+    PrgPlu.PluCount = 1;
+    PrgPlu.Lists[4][19].bytes[7] = 9;
+    PrgPlu.Row[1].LinkDept = 0x99;
+    PrgPlu.Row.back().Tax = 4;
+    Global::DecimalPoint = 3;
+    throw FaultError{FaultCode::type_mismatch};
+  });
+  opened();
+  click("C_Salva");
+  EXPECT_EQ(log(), (std::vector<std::string>{"FrmBare Salva: Type mismatch"}));
+  EXPECT_EQ(file_bytes(PrgMode), image);
+  EXPECT_EQ(image_file(), on_disk);
+  EXPECT_EQ(PrgPlu.PluCount, 2);
+  EXPECT_EQ(PrgPlu.Lists[4][19], Bcd<8>{});
+  EXPECT_EQ(PrgPlu.Row[1].LinkDept, 0x12);
+  EXPECT_EQ(PrgPlu.Row.back().Tax, 0);
+  EXPECT_EQ(Global::DecimalPoint, 2);
+}
+
+TEST_F(EditorFrameTest, OnceTheFileIsWrittenASaveStandsWhateverComesAfter) {
+  editor->frame.on_save([&] {
+    PrgMode.Perm0.bytes[0] = 0x55;
+    editor->frame.write_file();
+    throw FaultError{FaultCode::overflow};
+  });
+  opened();
+  click("C_Salva");
+  EXPECT_EQ(PrgMode.Perm0.bytes[0], 0x55);
+  EXPECT_EQ(image_file(), file_bytes(PrgMode));
+  // A later save is not taken for that one.
+  editor->frame.on_save([&] {
+    PrgMode.Perm0.bytes[0] = 0x66;
+    throw FaultError{FaultCode::overflow};
+  });
+  click("C_Salva");
+  EXPECT_EQ(PrgMode.Perm0.bytes[0], 0x55);
+}
+
+TEST_F(EditorFrameTest, AnEditorMayKeepWhatItHasStoredBeforeAFault) {
+  editor->frame.on_save(
+      [] {
+        PrgMode.Perm0.bytes[0] = 0x55;
+        throw FaultError{FaultCode::overflow};
+      },
+      EditorFrame::AfterFault::memory_stays);
+  opened();
+  const std::string on_disk = image_file();
+  click("C_Salva");
+  EXPECT_EQ(PrgMode.Perm0.bytes[0], 0x55);
+  EXPECT_EQ(image_file(), on_disk);
+}
+
+TEST_F(EditorFrameTest, WriteFileWritesTheFileThatTheEditorSavesTo) {
+  const auto saved_to = [this](SavesTo file) {
+    ++PrgMode.Perm0.bytes[0];
+    ++PrgPlu.Lists[0][0].bytes[0];
+    const std::string image = image_file();
+    const std::string items = bytes("Dati/PRG_PLU.BIN");
+    editor->frame.saves_to(file);
+    editor->frame.on_save([this] { editor->frame.write_file(); });
+    click("C_Salva");
+    return std::pair{image_file() != image, bytes("Dati/PRG_PLU.BIN") != items};
+  };
+  opened();
+  EXPECT_EQ(saved_to(SavesTo::image_file), std::pair(true, false));
+  EXPECT_EQ(saved_to(SavesTo::item_file), std::pair(false, true));
+  EXPECT_EQ(saved_to(SavesTo::no_file), std::pair(false, false));
+}
+
+TEST_F(EditorFrameTest, ALoadGoesOnAfterAPartThatCannotBeShown) {
+  editor->load_routine = [this] {
+    editor->frame.load_part([] { throw FaultError{FaultCode::overflow}; });
+    editor->frame.load_field(*editor->field, [] { return QStringLiteral("shown"); });
+  };
+  opened();
+  EXPECT_EQ(log(), (std::vector<std::string>{"FrmBare Form_load: Overflow"}));
+  EXPECT_EQ(editor->field->text(), QStringLiteral("shown"));
+  EXPECT_FALSE(editor->field->is_unread());
+}
+
+TEST_F(EditorFrameTest, AFieldWhoseNumberCannotBeShownStandsEmptyAndUnread) {
+  editor->field->show_text(QStringLiteral("of the record before"));
+  editor->load_routine = [this] {
+    editor->frame.load_field(*editor->field, []() -> QString { throw FaultError{FaultCode::type_mismatch}; });
+  };
+  opened();
+  EXPECT_EQ(log(), (std::vector<std::string>{"FrmBare Form_load: Type mismatch"}));
+  EXPECT_EQ(editor->field->text(), QString{});
+  EXPECT_TRUE(editor->field->is_unread());
 }
 
 TEST_F(EditorFrameTest, AScreenMayHaveOtherWordsInFrontOfItsFaults) {

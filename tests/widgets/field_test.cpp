@@ -71,6 +71,40 @@ TEST_F(FieldTest, ALimitOfTypingLeavesWhatTheProgramShows) {
   EXPECT_EQ(field.maxLength(), 4);
 }
 
+TEST_F(FieldTest, AnEmptyTextFromTheProgrammingIsUnreadUntilItChanges) {
+  EXPECT_FALSE(field.is_unread());
+  field.show_stored(QStringLiteral("12"));
+  EXPECT_FALSE(field.is_unread());
+  field.show_stored({});
+  EXPECT_TRUE(field.is_unread());
+  field.show_stored({});
+  EXPECT_TRUE(field.is_unread()) << "the next one cannot be read either";
+  field.show_stored(QStringLiteral("0"));
+  EXPECT_FALSE(field.is_unread());
+  field.show_stored({});
+  field.show_text(QStringLiteral("0"));
+  EXPECT_FALSE(field.is_unread());
+  field.show_text({});
+  EXPECT_FALSE(field.is_unread()) << "someone has emptied it";
+}
+
+TEST_F(FieldTest, AnUnreadFieldIsNeitherEnteredNorLeftBeforeSomethingIsTyped) {
+  field.show_stored({});
+  press(Qt::Key_Tab);
+  ASSERT_TRUE(field.hasFocus());
+  press(Qt::Key_Tab);
+  EXPECT_EQ(entered, 0);
+  EXPECT_EQ(left, 0);
+  EXPECT_TRUE(field.is_unread());
+  click(field);
+  type("1");
+  press(Qt::Key_Tab);
+  EXPECT_EQ(left, 1);
+  EXPECT_FALSE(field.is_unread());
+  click(field);
+  EXPECT_EQ(entered, 1);
+}
+
 TEST_F(FieldTest, AClickIntoItEntersItOnce) {
   click(field);
   EXPECT_EQ(entered, 1);

@@ -13,6 +13,7 @@
 #include "editors/form_grid.h"
 #include "editors/program/number_texts.h"
 #include "editors/program/record_at.h"
+#include "editors/store_field.h"
 #include "image/prg_mode.h"
 #include "widgets/look.h"
 #include "widgets/screen_text.h"
@@ -240,7 +241,7 @@ void FrmClerkSystemProgram::Carica_Clerk(int clerk) {
     const ClerkRecord& record = record_at(PrgMode.Clerk, clerk);
     E_Name->show_text(shown_name(record));
     rights_.show(place_of(clerk));
-    E_Password->show_text(shown_password(record));
+    E_Password->show_stored(shown_password(record));
   });
 }
 
@@ -249,8 +250,8 @@ void FrmClerkSystemProgram::save() {
   ClerkRecord& record = record_at(PrgMode.Clerk, clerk);
   record.Name.set(sostituzione_to_ecr(codes_of(E_Name->text())));
   rights_.save(place_of(clerk));
-  number_to_bcds(record.Password, page_bytes(E_Password->text()));
-  Write_PrgMode();
+  store_digits(*E_Password, record.Password);
+  frame_.write_file();
   Carica_Griglia();
   table_.go_to(table_.following_number(clerk - 1));
 }

@@ -9,6 +9,7 @@
 #include "core/global.h"
 #include "core/register_text.h"
 #include "core/run_log.h"
+#include "editors/program/number_texts.h"
 #include "editors/program/shared_choices.h"
 #include "widgets/look.h"
 #include "widgets/screen_text.h"
@@ -220,7 +221,7 @@ void FrmDepartmentProgram::Carica_Department(int department) {
     if (stands_already) group_changed();
     Cmb_Tax->show_number(record.Tax);
     Cmb_TakeOutTax->show_number(record.TakeOutTax);
-    E_Price->show_text(shown_price(record));
+    E_Price->show_stored(shown_price(record));
     Cmb_PriceType->show_number(price_type_of(record));
   });
 }
@@ -230,7 +231,7 @@ void FrmDepartmentProgram::group_changed() {
   if (value == Decimal{group_ten_stored}) {
     // The same group, as the register stores it.
     E_DeptGroupNumber->show_text(QString::number(group_ten));
-  } else if (value > Decimal{group_ten}) {
+  } else if (value.is_negative() || value > Decimal{group_ten}) {
     refuse_value(*E_DeptGroupNumber);
   }
   const QString text = E_DeptGroupNumber->text();
@@ -253,13 +254,12 @@ void FrmDepartmentProgram::save() {
   record.Group = static_cast<std::uint8_t>(typed_group == group_ten ? group_ten_stored : typed_group);
   record.Tax = Cmb_Tax->number();
   record.TakeOutTax = Cmb_TakeOutTax->number();
-  const QString price_text = E_Price->text();
-  const Decimal amount = price_text.isEmpty() ? Decimal{} : Decimal::from_text(page_bytes(price_text));
-  number_to_bcds(record.Price, amount.scaled(Global::DecimalPoint));
+  const Decimal price = amount_in(*E_Price);
+  if (!E_Price->is_unread()) number_to_bcds(record.Price, price);
   const auto department = static_cast<std::size_t>(index + 1);
   record.Changed = changed_.test(department) ? 1 : 0;
   changed_.reset(department);
-  Write_PrgMode();
+  frame_.write_file();
   Carica_Griglia();
   table_.go_to(table_.following_number(index));
 }

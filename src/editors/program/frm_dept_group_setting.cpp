@@ -56,7 +56,7 @@ void FrmDeptGroupSetting::Carica_DeptGroup(int group) {
 void FrmDeptGroupSetting::save() {
   auto& name = record_at(PrgMode.DeptGroupName, Cmb_DeptGroupNumber->whole_number());
   name.set(sostituzione_to_ecr(codes_of(E_Name->text())));
-  Write_PrgMode();
+  frame_.write_file();
 }
 
 }  // namespace ecr

@@ -9,6 +9,7 @@
 #include "core/text.h"
 #include "editors/form_grid.h"
 #include "editors/program/number_texts.h"
+#include "editors/store_field.h"
 #include "widgets/screen_text.h"
 
 namespace ecr {
@@ -88,6 +89,7 @@ QWidget* FrmFCRatingSetting::make_frame(std::size_t index) {
   // The digits stay, only the point moves. What the moved point leaves no room for is lost: the length that the field
   // takes is that of the load.
   currency.Cmb_DecimalPositionForExchangedRate->on_click([&currency] {
+    if (currency.E_ExchangeRate->is_unread()) return;
     currency.E_ExchangeRate->show_text(QString::number(currency.Rate));
     rate_left(currency);
   });
@@ -97,7 +99,9 @@ QWidget* FrmFCRatingSetting::make_frame(std::size_t index) {
 void FrmFCRatingSetting::load() {
   frame_.load([this] {
     frame_.top.L_Titolo->setText(windowTitle());
-    for (std::size_t i = 0; i < currencies_.size(); ++i) load_currency(currencies_[i], PrgMode.ForeignCurrency[i]);
+    for (std::size_t i = 0; i < currencies_.size(); ++i) {
+      frame_.load_part([this, i] { load_currency(currencies_[i], PrgMode.ForeignCurrency[i]); });
+    }
   });
 }
 
@@ -111,9 +115,10 @@ void FrmFCRatingSetting::load_currency(Currency& currency, ForeignCurrencyRecord
   currency.Cmb_DecimalPositionForExchangedRate->fill(bare_numbers(0, 3));
   currency.Cmb_DecimalPositionForExchangedRate->show_text(QString::number(record.DecimalPositionForExchangedRate));
   currency.E_ExchangeRate->limit_typing(rate_digits + (record.DecimalPositionForExchangedRate != 0 ? 1 : 0));
-  currency.Rate = static_cast<std::int32_t>(leading_number(bcds_to_number(record.Rate)));
-  currency.E_ExchangeRate->show_text(QString::number(currency.Rate));
-  rate_left(currency);
+  const std::string rate = bcds_to_number(record.Rate);
+  currency.Rate = static_cast<std::int32_t>(leading_number(rate));
+  currency.E_ExchangeRate->show_stored(screen_text(rate));
+  if (!currency.E_ExchangeRate->is_unread()) rate_left(currency);
 }
 
 void FrmFCRatingSetting::rate_entered(const Currency& currency) {
@@ -135,11 +140,12 @@ void FrmFCRatingSetting::save() {
     const Currency& currency = currencies_[i];
     ForeignCurrencyRecord& record = PrgMode.ForeignCurrency[i];
     record.Name.set(sostituzione_to_ecr(codes_of(currency.E_Name->text())));
-    number_to_bcds(record.Rate, numeric_value(currency.E_ExchangeRate->text()).scaled(currency.decimals()));
+    store_number(*currency.E_ExchangeRate, record.Rate,
+                 [&currency](const QString& text) { return numeric_value(text).scaled(currency.decimals()); });
     record.DecimalPositionForRate = static_cast<std::uint8_t>(currency.Cmb_DecimalPositionForRate->whole_number());
     record.DecimalPositionForExchangedRate = static_cast<std::uint8_t>(currency.decimals());
   }
-  Write_PrgMode();
+  frame_.write_file();
 }
 
 }  // namespace ecr

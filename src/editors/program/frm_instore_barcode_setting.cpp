@@ -5,6 +5,7 @@
 #include "editors/form_grid.h"
 #include "editors/program/number_texts.h"
 #include "editors/program/record_at.h"
+#include "editors/store_field.h"
 #include "widgets/screen_text.h"
 
 namespace ecr {
@@ -156,7 +157,7 @@ void FrmInstoreBarcodeSetting::Carica_IBS(int rule) {
     Cmb_DigitsOfFlag->show_text(QString::number(record.DigitsOfFlag));
     Cmb_NumberOfFc->show_text(QString::number(record.NumberOfFc));
     Cmb_NewsPaper->show_number(second_unless_zero(record.NewsPaper));
-    E_FlagCode->show_text(shown_flag_code(record));
+    E_FlagCode->show_stored(shown_flag_code(record));
   });
 }
 
@@ -170,8 +171,8 @@ void FrmInstoreBarcodeSetting::save() {
   record.DigitsOfPrice = static_cast<std::uint8_t>(Cmb_DigitsOfPrice->whole_number());
   record.NumberOfFc = static_cast<std::uint8_t>(Cmb_NumberOfFc->whole_number());
   record.NewsPaper = Cmb_NewsPaper->number();
-  number_to_bcds(record.FlagCode, page_bytes(E_FlagCode->text()));
-  Write_PrgMode();
+  store_digits(*E_FlagCode, record.FlagCode);
+  frame_.write_file();
   Carica_Griglia();
   table_.go_to(table_.following_number(rule - 1));
 }

@@ -5,7 +5,7 @@
 
 #include "core/codecs.h"
 #include "editors/form_grid.h"
-#include "image/prg_mode.h"
+#include "editors/store_field.h"
 #include "widgets/screen_text.h"
 
 namespace ecr {
@@ -114,21 +114,23 @@ FrmPercentageMenu::FrmPercentageMenu()
 void FrmPercentageMenu::load() {
   frame_.load([this] {
     signs_.load();
-    const std::pair<Field*, const Bcd<2>*> rates[] = {{E_P1KeyRate, &PrgMode.PercentA[0]},
-                                                      {E_P1KeyRateLimit, &PrgMode.PercentA[1]},
-                                                      {E_P2KeyRate, &PrgMode.PercentB[0]},
-                                                      {E_P2KeyRateLimit, &PrgMode.PercentB[1]}};
-    for (const auto& [field, rate] : rates) field->show_text(shown_rate(bcds_to_number(*rate)));
+    for (const auto& [field, rate] : rates()) {
+      frame_.load_field(*field, [stored = rate] { return shown_rate(bcds_to_number(*stored)); });
+    }
   });
 }
 
+std::array<std::pair<Field*, Bcd<2>*>, 4> FrmPercentageMenu::rates() const {
+  return {{{E_P1KeyRate, &PrgMode.PercentA[0]},
+           {E_P1KeyRateLimit, &PrgMode.PercentA[1]},
+           {E_P2KeyRate, &PrgMode.PercentB[0]},
+           {E_P2KeyRateLimit, &PrgMode.PercentB[1]}}};
+}
+
 void FrmPercentageMenu::save() {
-  number_to_bcds(PrgMode.PercentA[0], stored_rate(E_P1KeyRate->text()));
-  number_to_bcds(PrgMode.PercentA[1], stored_rate(E_P1KeyRateLimit->text()));
-  number_to_bcds(PrgMode.PercentB[0], stored_rate(E_P2KeyRate->text()));
-  number_to_bcds(PrgMode.PercentB[1], stored_rate(E_P2KeyRateLimit->text()));
+  for (const auto& [field, rate] : rates()) store_number(*field, *rate, stored_rate);
   signs_.save();
-  Write_PrgMode();
+  frame_.write_file();
 }
 
 }  // namespace ecr

@@ -2,8 +2,10 @@
 // The register's two percentage keys: rate, highest rate, and whether the key adds or takes off.
 
 #include <array>
+#include <utility>
 
 #include "editors/option_list.h"
+#include "image/prg_mode.h"
 #include "widgets/editor_frame.h"
 #include "widgets/field.h"
 
@@ -19,6 +21,8 @@ class FrmPercentageMenu : public Screen {
   [[nodiscard]] QWidget* first_focus() override { return frame_.C_Annulla; }
 
  private:
+  /// The fields, and where each one's rate is stored; in the order in which they are loaded and saved.
+  [[nodiscard]] std::array<std::pair<Field*, Bcd<2>*>, 4> rates() const;
   void save();
 
   EditorFrame frame_;

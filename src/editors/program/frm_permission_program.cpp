@@ -3,6 +3,7 @@
 #include "core/codecs.h"
 #include "editors/form_grid.h"
 #include "editors/program/number_texts.h"
+#include "editors/store_field.h"
 #include "widgets/screen_text.h"
 
 namespace ecr {
@@ -55,7 +56,8 @@ FrmPermissionProgram::FrmPermissionProgram()
     });
   }
   frame_.log_prefixes("FrmPermissionProgram form_load: ", "FrmPermissionProgram Salva: ");
-  frame_.on_save([this] { save(); });
+  // A word in the manager's field comes too late for the three passwords before it: they are in the image by then.
+  frame_.on_save([this] { save(); }, EditorFrame::AfterFault::memory_stays);
   frame_.after_send([this] { E_Prg_ZModePasswordSetting->setFocus(Qt::OtherFocusReason); });
   set_tab_chain({E_Prg_ZModePasswordSetting, E_XModePasswordSetting, E_TrainingModePasswordSetting,
                  E_ManagerModePassword, frame_.C_Salva, frame_.C_Invia_Ecr, frame_.C_Annulla, frame_.top.I_Help});
@@ -64,16 +66,17 @@ FrmPermissionProgram::FrmPermissionProgram()
 void FrmPermissionProgram::load() {
   frame_.load([this] {
     for (const Place& place : places_) {
-      place.field->show_text(with_zeros(screen_text(bcds_to_number(PrgMode.*place.password)), digits));
+      place.field->show_stored(with_zeros(screen_text(bcds_to_number(PrgMode.*place.password)), digits));
     }
   });
 }
 
 void FrmPermissionProgram::save() {
   for (const Place& place : places_) {
-    number_to_bcds(PrgMode.*place.password, Decimal::from_text(page_bytes(place.field->text())));
+    store_number(*place.field, PrgMode.*place.password,
+                 [](const QString& text) { return Decimal::from_text(page_bytes(text)); });
   }
-  Write_PrgMode();
+  frame_.write_file();
 }
 
 }  // namespace ecr

@@ -4,6 +4,7 @@
 
 #include "core/codecs.h"
 #include "editors/program/code_field.h"
+#include "editors/store_field.h"
 #include "image/prg_mode.h"
 #include "widgets/look.h"
 #include "widgets/screen_text.h"
@@ -59,16 +60,16 @@ FrmPluPageProgram::FrmPluPageProgram()
 void FrmPluPageProgram::load() {
   frame_.load([this] {
     for (std::size_t i = 0; i < E_PluPage.size(); ++i) {
-      E_PluPage[i]->show_text(screen_text(bcds_to_number(PrgMode.PluPage[i])));
+      E_PluPage[i]->show_stored(screen_text(bcds_to_number(PrgMode.PluPage[i])));
     }
   });
 }
 
 void FrmPluPageProgram::save() {
   for (std::size_t i = 0; i < E_PluPage.size(); ++i) {
-    number_to_bcds(PrgMode.PluPage[i], page_bytes(E_PluPage[i]->text()));
+    store_digits(*E_PluPage[i], PrgMode.PluPage[i]);
   }
-  Write_PrgMode();
+  frame_.write_file();
 }
 
 }  // namespace ecr

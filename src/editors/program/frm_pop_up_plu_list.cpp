@@ -4,6 +4,7 @@
 
 #include "core/codecs.h"
 #include "editors/program/code_field.h"
+#include "editors/store_field.h"
 #include "image/prg_plu.h"
 #include "lang/own_texts.h"
 #include "link/transfer.h"
@@ -34,7 +35,7 @@ FrmPopUpPluList::FrmPopUpPluList()
     Tab_PopUpPluList->addTab(make_list(list), own_words(OwnText::list_number).arg(list + 1));
   }
   frame_.body->addWidget(Tab_PopUpPluList, 1);
-  frame_.changes_file(QStringLiteral("PRG_PLU.BIN"));
+  frame_.saves_to(SavesTo::item_file);
   frame_.on_save([this] { save(); });
   frame_.send_with(Send_PrgPluToEcr, EditorFrame::WhileSending::buttons_enabled);
 }
@@ -71,7 +72,7 @@ void FrmPopUpPluList::load() {
     carica_messaggi();
     for (std::size_t list = 0; list < lists; ++list) {
       for (std::size_t entry = 0; entry < entries; ++entry) {
-        E_Plu[list][entry]->show_text(screen_text(bcds_to_number(PrgPlu.Lists[list][entry])));
+        E_Plu[list][entry]->show_stored(screen_text(bcds_to_number(PrgPlu.Lists[list][entry])));
       }
     }
   });
@@ -92,10 +93,10 @@ void FrmPopUpPluList::carica_messaggi() {
 void FrmPopUpPluList::save() {
   for (std::size_t list = 0; list < lists; ++list) {
     for (std::size_t entry = 0; entry < entries; ++entry) {
-      number_to_bcds(PrgPlu.Lists[list][entry], page_bytes(E_Plu[list][entry]->text()));
+      store_digits(*E_Plu[list][entry], PrgPlu.Lists[list][entry]);
     }
   }
-  Write_PrgPlu();
+  frame_.write_file();
 }
 
 }  // namespace ecr

@@ -127,7 +127,7 @@ void FrmPrgPlu::wire() {
   C_Import->on_click([this] { import_file(); });
   C_Export->on_click([this] { export_file(); });
   frame_.log_prefixes("FrmPrgPlu form_load: ", "FrmPrgPlu Salva: ");
-  frame_.changes_file(QStringLiteral("PRG_PLU.BIN"));
+  frame_.saves_to(SavesTo::item_file);
   frame_.on_save([this] { save(); });
   frame_.send_with(Send_PrgPluToEcr, EditorFrame::WhileSending::buttons_disabled);
 }

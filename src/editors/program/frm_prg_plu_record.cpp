@@ -11,6 +11,7 @@
 #include "core/run_log.h"
 #include "core/shell.h"
 #include "editors/program/frm_prg_plu.h"
+#include "editors/program/number_texts.h"
 #include "image/plu_csv.h"
 #include "image/plu_order.h"
 #include "widgets/choose_file.h"
@@ -34,13 +35,11 @@ Bcd<8>* find_entry(PopUpList& list, const Bcd<8>& code) {
   return entry == list.end() ? nullptr : &*entry;
 }
 
-/// A price as it stands in its field.
-Decimal amount_of(const Field& field) {
-  return field.text().isEmpty() ? Decimal{} : Decimal::from_text(page_bytes(field.text()));
-}
-
-void take_price(Bcd<4>& price, Flags& flags, std::uint8_t bit, const Decimal& amount) {
-  number_to_bcds(price, amount.scaled(Global::DecimalPoint));
+/// A price out of its field, and the bit that says whether there is one.
+void take_price(Bcd<4>& price, Flags& flags, std::uint8_t bit, const Field& field) {
+  const Decimal amount = amount_in(field);
+  if (field.is_unread()) return;
+  number_to_bcds(price, amount);
   byte_bit_change(flags, bit, amount > Decimal{});
 }
 
@@ -58,16 +57,16 @@ void FrmPrgPlu::Carica_Plu(int number) {
     PluRecord& record = PrgPlu.Row[static_cast<std::size_t>(number - 1)];
     // A type that no entry has: the list keeps the one of the item before, and a new item takes that over.
     if (number > PrgPlu.PluCount) record.Flags1 |= 3;
-    E_FreeCode->show_text(shown_code(record));
+    E_FreeCode->show_stored(shown_code(record));
     E_Name->show_text(shown_name(record));
-    E_StockCount->show_text(shown_stock(record));
+    E_StockCount->show_stored(shown_stock(record));
     Cmb_Status->show_number(type_of(record));
     Cmb_LinkDept->show_text(screen_text(link_dept_text(record.LinkDept)));
     // A value that a list does not have leaves it as it stands.
     Cmb_Tax->show_number(record.Tax);
     Cmb_TakeOutTax->show_number(record.TakeOutTax);
-    E_Price1->show_text(shown_price(record.Price1));
-    E_Price2->show_text(shown_price(record.Price2));
+    E_Price1->show_stored(shown_price(record.Price1));
+    E_Price2->show_stored(shown_price(record.Price2));
     Cmb_PluListLink->show_text(QString::number(record.PluListLink));
     Cmb_StockUsed->show_number(byte_bit_tst(record.Flags1, stock_used_bit) ? 1 : 0);
   });
@@ -105,7 +104,7 @@ void FrmPrgPlu::save() {
   }
   changed_.reset(index);
   Ordina(static_cast<int>(index));
-  Write_PrgPlu();
+  frame_.write_file();
   table_.go_to(following);
   Fg_Plu->bring_to_top(std::max(1, following - 1));
 }
@@ -130,7 +129,9 @@ int FrmPrgPlu::following_number(int number) const {
 }
 
 void FrmPrgPlu::encode(PluRecord& record) const {
-  Stock_To_Bcds(page_bytes(E_StockCount->text()), record.Stock);
+  // Its place in the table goes by its code. One that nobody can read is not taken for the 0 of an empty row.
+  if (E_FreeCode->is_unread()) throw FaultError{FaultCode::type_mismatch};
+  if (!E_StockCount->is_unread()) Stock_To_Bcds(page_bytes(E_StockCount->text()), record.Stock);
   number_to_bcds(record.Code, page_bytes(E_FreeCode->text()));
   record.Name.set(sostituzione_to_ecr(codes_of(E_Name->text())));
   for (const std::uint8_t bit : {std::uint8_t{0}, std::uint8_t{1}}) {
@@ -139,8 +140,8 @@ void FrmPrgPlu::encode(PluRecord& record) const {
   record.LinkDept = link_dept_of(page_bytes(Cmb_LinkDept->text()));
   record.Tax = Cmb_Tax->number();
   record.TakeOutTax = Cmb_TakeOutTax->number();
-  take_price(record.Price1, record.Flags1, price1_bit, amount_of(*E_Price1));
-  take_price(record.Price2, record.Flags1, price2_bit, amount_of(*E_Price2));
+  take_price(record.Price1, record.Flags1, price1_bit, *E_Price1);
+  take_price(record.Price2, record.Flags1, price2_bit, *E_Price2);
 }
 
 void FrmPrgPlu::Ordina(int index) {

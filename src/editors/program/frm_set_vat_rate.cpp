@@ -3,6 +3,7 @@
 #include <QGridLayout>
 
 #include "core/codecs.h"
+#include "editors/store_field.h"
 #include "image/prg_mode.h"
 #include "widgets/look.h"
 #include "widgets/screen_text.h"
@@ -78,17 +79,19 @@ FrmSetVatRate::FrmSetVatRate() : Screen{QStringLiteral("FrmSetVatRate")}, frame_
 void FrmSetVatRate::load() {
   frame_.load([this] {
     for (std::size_t i = 0; i < E_VatRate.size(); ++i) {
-      const Decimal rate = Decimal::from_text(bcds_to_number(PrgMode.VatRate[i])).scaled(-scale_digits);
-      E_VatRate[i]->show_text(screen_text(rate.text(shown_decimals)) + unit);
+      frame_.load_field(*E_VatRate[i], [i] {
+        const Decimal rate = Decimal::from_text(bcds_to_number(PrgMode.VatRate[i])).scaled(-scale_digits);
+        return screen_text(rate.text(shown_decimals)) + unit;
+      });
     }
   });
 }
 
 void FrmSetVatRate::save() {
   for (std::size_t i = 0; i < E_VatRate.size(); ++i) {
-    number_to_bcds(PrgMode.VatRate[i], stored_rate(E_VatRate[i]->text()));
+    store_number(*E_VatRate[i], PrgMode.VatRate[i], stored_rate);
   }
-  Write_PrgMode();
+  frame_.write_file();
 }
 
 }  // namespace ecr

@@ -11,6 +11,7 @@
 #include "core/fault.h"
 #include "editors/form_grid.h"
 #include "editors/program/number_texts.h"
+#include "editors/store_field.h"
 #include "image/prg_mode.h"
 #include "widgets/screen_text.h"
 
@@ -129,7 +130,7 @@ void counter_left(Field& field, const CounterRow& row) {
   try {
     field.show_text(screen_text(counter_of(field.text(), row).text(0, row.digits)));
   } catch (const FaultError&) {
-    field.show_text(stored_counter(row));
+    field.show_stored(stored_counter(row));
     throw;
   }
 }
@@ -203,7 +204,7 @@ QWidget* FrmSystemOption::make_counters() {
 
 void FrmSystemOption::load() {
   frame_.load([this] {
-    for (std::size_t i = 0; i < counters_.size(); ++i) counters_[i]->show_text(stored_counter(counter_rows[i]));
+    for (std::size_t i = 0; i < counters_.size(); ++i) counters_[i]->show_stored(stored_counter(counter_rows[i]));
     lists_.load();
   });
 }
@@ -211,11 +212,11 @@ void FrmSystemOption::load() {
 void FrmSystemOption::save() {
   for (std::size_t i = 0; i < counters_.size(); ++i) {
     const CounterRow& row = counter_rows[i];
-    number_to_bcds(bytes_of_counter(row), counter_of(counters_[i]->text(), row));
+    store_number(*counters_[i], bytes_of_counter(row), [&row](const QString& text) { return counter_of(text, row); });
   }
   lists_.save();
   take_decimal_point();
-  Write_PrgMode();
+  frame_.write_file();
 }
 
 }  // namespace ecr

@@ -176,7 +176,7 @@ void FrmTenderMenuSetting::save() {
     PrgMode.Tender[i].Name.set(sostituzione_to_ecr(codes_of(media_[i].E_Name->text())));
     media_[i].lists.save();
   }
-  Write_PrgMode();
+  frame_.write_file();
 }
 
 }  // namespace ecr

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <string_view>
 
+#include "core/global.h"
 #include "core/text.h"
 #include "widgets/field.h"
 #include "widgets/screen_text.h"
@@ -37,6 +38,11 @@ QString through_double(const QString& text) {
   const auto [end, fault] =
       std::to_chars(form.data(), form.data() + form.size(), value, std::chars_format::general, 15);
   return screen_text(upper_ascii(std::string_view{form.data(), static_cast<std::size_t>(end - form.data())}));
+}
+
+Decimal amount_in(const Field& field) {
+  const Decimal shown = field.text().isEmpty() ? Decimal{} : Decimal::from_text(page_bytes(field.text()));
+  return shown.scaled(Global::DecimalPoint);
 }
 
 void make_whole_number_field(Field& field, int maximum) {

@@ -1,5 +1,6 @@
 #include "editors/program/plu_grid.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "core/amount_text.h"
@@ -26,6 +27,12 @@ PluRecord shown_part(const PluRecord& record) {
 
 bool same(const PluRecord& one, const PluRecord& other) {
   return std::memcmp(&one, &other, sizeof one) == 0;
+}
+
+/// What a row is sorted by: the code as it is shown.
+std::uint64_t sort_code(const PluRecord& record, const std::string& shown) {
+  if (!shown.empty()) return code_number(shown);
+  return std::max<std::uint64_t>(1, code_number(bcds_to_number_str(record.Code)));
 }
 
 QStringList labels_of(const QStringList& choices) {
@@ -76,7 +83,7 @@ void PluGrid::fill() {
 void PluGrid::fill_row(int row, const PluRecord& record) {
   RecordModel& cells = grid_.cells();
   const std::string code_bytes = bcds_to_number(record.Code);
-  codes_[static_cast<std::size_t>(row - 1)] = code_number(code_bytes);
+  codes_[static_cast<std::size_t>(row - 1)] = sort_code(record, code_bytes);
   cells.set_cell(row, number, QString::number(row));
   cells.set_cell(row, code, screen_text(code_bytes));
   cells.set_cell(row, name, shown_name(record));

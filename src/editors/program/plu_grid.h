@@ -30,7 +30,8 @@ class PluGrid {
 
   /// The code that a row, 1 for the first, shows.
   [[nodiscard]] std::string code_text(int row) const;
-  /// The codes that all rows show, as numbers.
+  /// The codes that all rows show, as numbers. A code that cannot be read is not shown; for its row stands a number
+  /// near it, so that the row isn't taken for an empty one.
   [[nodiscard]] const std::vector<std::uint64_t>& codes() const { return codes_; }
 
  private:

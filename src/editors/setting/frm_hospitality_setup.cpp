@@ -13,7 +13,7 @@ const OptionScreenTable hospitality_setup = {
     .rows = setting::hospitality_setup_rows,
     .load_prefix = "FrmHospitalitySetup Form_load: ",
     .save_prefix = "FrmHospitalitySetup Salva: ",
-    .writes = SaveWrites::nothing,
+    .saves_to = SavesTo::no_file,
 };
 
 }  // namespace ecr

@@ -4,6 +4,7 @@
 #include "core/global.h"
 #include "core/shell.h"
 #include "editors/setting/initial_menu_rows.h"
+#include "editors/store_field.h"
 #include "image/prg_mode.h"
 #include "lang/register_language.h"
 #include "widgets/screen_text.h"
@@ -52,7 +53,7 @@ FrmInitialMenu::FrmInitialMenu()
 void FrmInitialMenu::load() {
   frame_.load([this] {
     lists_.load();
-    E_BusinessID->show_text(screen_text(bcds_to_number(PrgMode.InitialMenuBlock5)));
+    E_BusinessID->show_stored(screen_text(bcds_to_number(PrgMode.InitialMenuBlock5)));
     L_BusinessID->hide();
     E_BusinessID->hide();
     C_SettaLingua->setVisible(Global::DebugMode);
@@ -69,8 +70,8 @@ void FrmInitialMenu::save() {
     static_cast<void>(Setta_Lingua(language));
   }
   lists_.save();
-  number_to_bcds(PrgMode.InitialMenuBlock5, page_bytes(E_BusinessID->text()));
-  Write_PrgMode();
+  store_digits(*E_BusinessID, PrgMode.InitialMenuBlock5);
+  frame_.write_file();
 }
 
 }  // namespace ecr

@@ -131,7 +131,7 @@ FrmPrintMode::FrmPrintMode()
   frame_.log_prefixes("FrmPrintMode form_load: ", "FrmPrintMode Salva: ");
   frame_.on_save([this] {
     for (const auto& page : pages_) page->save();
-    Write_PrgMode();
+    frame_.write_file();
   });
 }
 

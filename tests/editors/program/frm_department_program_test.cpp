@@ -564,6 +564,20 @@ TEST_F(FrmDepartmentProgramTest, APastedGroupIsCutUntilItIsTaken) {
   EXPECT_EQ(field("E_DeptGroupNumber").text(), QStringLiteral("10")) << "cut to 16, which is the stored form of 10";
 }
 
+TEST_F(FrmDepartmentProgramTest, ANegativeGroupIsRefusedAsOneAboveTen) {
+  in_memory(1).Group = 3;
+  open_editor();
+  click("E_DeptGroupNumber");
+  expect_refusals(1);
+  paste_over(QStringLiteral("-5"));
+  EXPECT_EQ(field("E_DeptGroupNumber").text(), QStringLiteral("-"));
+  expect_refusals(2);
+  paste_over(QStringLiteral("-12"));
+  EXPECT_EQ(field("E_DeptGroupNumber").text(), QStringLiteral("-"));
+  save();
+  EXPECT_EQ(stored(1, group_at), 0) << "what is left says no number";
+}
+
 TEST_F(FrmDepartmentProgramTest, AGroupFromElsewhereThatIsTooHighIsRefusedAsItIsShown) {
   in_memory(2).Group = 25;
   open_editor();
@@ -886,6 +900,41 @@ TEST_F(FrmDepartmentProgramTest, APriceThatIsNoNumberIsLoggedAndNothingIsWritten
   save();
   EXPECT_EQ(log().back(), "FrmDepartmentProgram Salva: Type mismatch");
   EXPECT_EQ(image_file(), before);
+}
+
+TEST_F(FrmDepartmentProgramTest, ASaveWithDecimalsThatNoAmountHasIsLoggedAndNothingIsWritten) {
+  open_editor();
+  const std::string before = image_file();
+  ASSERT_NE(record(1).substr(price_at), std::string(4, '\0')) << "a department that has a price";
+  for (const int decimals : {29, 100, 255}) {
+    Global::DecimalPoint = static_cast<std::uint8_t>(decimals);
+    open_again();
+    EXPECT_EQ(field("E_Price").text(), QString{}) << "no price is shown as 0";
+    enter("E_DeptName", QStringLiteral("ROLLS"));
+    save();
+    EXPECT_EQ(log().back(), "FrmDepartmentProgram Salva: Overflow") << decimals;
+    EXPECT_EQ(number().number(), 1);
+    EXPECT_EQ(image_file(), before);
+    EXPECT_EQ(file_bytes(PrgMode), before);
+    click("E_Price");
+    type(QStringLiteral("123"));
+    press(Qt::Key_Tab);
+    EXPECT_EQ(field("E_Price").text(), QStringLiteral("123")) << "it stays to be seen";
+    save();
+    EXPECT_EQ(log().back(), "FrmDepartmentProgram Salva: Overflow");
+    EXPECT_EQ(image_file(), before);
+  }
+}
+
+TEST_F(FrmDepartmentProgramTest, TheMostDecimalsThatAnAmountHasLoseNoDigit) {
+  number_to_bcds(in_memory(1).Price, "12345678");
+  lay_down(PrgMode);
+  Global::DecimalPoint = 28;
+  open_editor();
+  EXPECT_EQ(field("E_Price").text(), QStringLiteral("0.0000000000000000000012345678"));
+  save();
+  EXPECT_EQ(record(1).substr(price_at), "\x78\x56\x34\x12");
+  EXPECT_EQ(number().number(), 2);
 }
 
 TEST_F(FrmDepartmentProgramTest, AFileThatCannotBeWrittenFailsSilently) {

@@ -262,6 +262,54 @@ TEST_F(FrmFCRatingSettingTest, AFaultInTheSaveIsLoggedUnderTheScreensOtherName) 
   EXPECT_EQ(image_file(), before);
 }
 
+TEST_F(FrmFCRatingSettingTest, APositionBeyondAllDecimalsIsSkippedByTheLoadAndRefusedByTheSave) {
+  set(1, "12345678", 29);
+  in_memory(0).Name.set("EURO");
+  lay_down(PrgMode);
+  open_editor();
+  EXPECT_EQ(log(), Lines{"FrmEcRatingSetting Form load: Overflow"});
+  EXPECT_EQ(rate(0), QStringLiteral("123.45"));
+  EXPECT_EQ(rate(1), QStringLiteral("12345678")) << "the digits, without the point";
+  EXPECT_EQ(rate(2), QStringLiteral("123.45")) << "the currencies after it are shown";
+  EXPECT_EQ(shown("E_Name(3)"), QStringLiteral("KRONE"));
+  const std::string before = image_file();
+  const std::string memory = file_bytes(PrgMode);
+  enter("E_Name(0)", QStringLiteral("KRONA"));
+  click("E_ExchangeRate(1)");
+  click("E_Name(2)");
+  save();
+  EXPECT_EQ(log().back(), "FrmEcRatingSetting Salva: Overflow");
+  EXPECT_EQ(image_file(), before);
+  EXPECT_EQ(file_bytes(PrgMode), memory);
+  // A place for the point that there is, and the rate is itself again.
+  pick(decimals(1), 2);
+  EXPECT_EQ(rate(1), QStringLiteral("123456.78"));
+  save();
+  EXPECT_EQ(record(1).substr(10), bytes_of({2, 1, 0x78, 0x56, 0x34, 0x12}));
+  EXPECT_EQ(record(0).substr(0, 5), "KRONA");
+}
+
+TEST_F(FrmFCRatingSettingTest, ARateOfZeroWithAPositionBeyondAllDecimalsIsRefusedToo) {
+  set(1, "0", 255);
+  lay_down(PrgMode);
+  open_editor();
+  const std::string before = image_file();
+  save();
+  EXPECT_EQ(log().back(), "FrmEcRatingSetting Salva: Overflow");
+  EXPECT_EQ(image_file(), before);
+}
+
+TEST_F(FrmFCRatingSettingTest, ThePointDoesNotMakeAZeroOfARateThatCannotBeRead) {
+  in_memory(2).Rate.bytes = {0xFF, 1, 2, 3};
+  lay_down(PrgMode);
+  open_editor();
+  EXPECT_EQ(rate(2), QString{});
+  pick(decimals(2), 3);
+  EXPECT_EQ(rate(2), QString{});
+  save();
+  EXPECT_EQ(record(2).substr(10), bytes_of({3, 2, 0xFF, 1, 2, 3}));
+}
+
 TEST_F(FrmFCRatingSettingTest, AnyGoodRatesSurviveLoadAndSave) {
   Random random{15};
   for (int round = 0; round < 20; ++round) {

@@ -197,15 +197,17 @@ TEST_F(FrmPercentageMenuTest, ASaveWritesRatesAndSignsAndNoOtherByte) {
   EXPECT_EQ(file_bytes(PrgMode), expected);
 }
 
-TEST_F(FrmPercentageMenuTest, ABrokenRateIsLoggedAndTheScreenStays) {
-  PrgMode.PercentA[1].bytes = {0x0A, 0};
+TEST_F(FrmPercentageMenuTest, ABrokenRateIsLoggedAndTheOthersAreShownAndSaved) {
+  PrgMode.PercentA[1].bytes = {0x0A, 0x33};
   open_editor();
   EXPECT_EQ(log().back(), "FrmPercentageMenu form_load: Type mismatch");
   EXPECT_EQ(shown("E_P1KeyRate"), QStringLiteral("10.00 %"));
-  const std::string before = image_file();
+  EXPECT_EQ(shown("E_P1KeyRateLimit"), QString{});
+  EXPECT_EQ(shown("E_P2KeyRate"), QStringLiteral("0.29 %"));
+  EXPECT_EQ(shown("E_P2KeyRateLimit"), QStringLiteral("0.00 %"));
+  enter("E_P2KeyRate", QStringLiteral("1234"));
   save();
-  EXPECT_EQ(log().back(), "FrmPercentageMenu Salva: Type mismatch");
-  EXPECT_EQ(image_file(), before);
+  EXPECT_EQ(stored(rates_at, 8), bytes_of({0x00, 0x10, 0x0A, 0x33, 0x34, 0x12, 0, 0}));
 }
 
 TEST_F(FrmPercentageMenuTest, SendSendsWhatWasSavedLast) {

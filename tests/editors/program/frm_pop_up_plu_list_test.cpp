@@ -130,6 +130,19 @@ TEST_F(FrmPopUpPluListTest, AnEmptyFieldThatNeverLostTheFocusStoresZero) {
   EXPECT_EQ(stored(1, 1), std::string(8, '\0'));
 }
 
+TEST_F(FrmPopUpPluListTest, AnEntryThatCannotBeReadStaysAndTheOthersAreSaved) {
+  PrgPlu.Lists[1][2].bytes = {0x0B, 1, 2, 3, 4, 5, 6, 7};
+  open_editor();
+  EXPECT_EQ(shown(2, 3), QString{});
+  enter(2, 2, QStringLiteral("47"));
+  press(Qt::Key_Tab);
+  press(Qt::Key_Tab);
+  click("C_Salva");
+  EXPECT_EQ(stored(2, 2), std::string("\x47\0\0\0\0\0\0\0", 8));
+  EXPECT_EQ(stored(2, 3), "\x0B\x01\x02\x03\x04\x05\x06\x07");
+  EXPECT_EQ(stored(2, 4), std::string(8, '\0'));
+}
+
 TEST_F(FrmPopUpPluListTest, SendSendsTheItemsWithTheButtonsEnabled) {
   link().be_a_register();
   open_editor();

@@ -22,6 +22,7 @@ class PluSave : public PluEditorTest {
     enter("E_FreeCode", text);
     save();
   }
+  static std::string table_bytes() { return {reinterpret_cast<const char*>(&PrgPlu), sizeof PrgPlu}; }
   void choose_list(int item_number, int list_number) {
     go_to(item_number);
     pick(list("Cmb_PluListLink"), list_number);
@@ -210,6 +211,108 @@ TEST_F(PluSave, APriceThatIsNoNumberIsLoggedAndNothingIsWritten) {
   EXPECT_EQ(log().back(), "FrmPrgPlu Salva: Type mismatch");
   EXPECT_EQ(file(), before);
   EXPECT_EQ(number().number(), 1);
+}
+
+TEST_F(PluSave, ASaveThatFailsLeavesTableListsAndCountAsTheyWere) {
+  item(2).PluListLink = 1;
+  set_entry(1, 1, 20);
+  Write_PrgPlu();
+  open_editor();
+  const std::string before = file();
+  const std::string memory = table_bytes();
+  choose_list(2, 3);
+  enter("E_FreeCode", QStringLiteral("45"));
+  enter("E_Name", QStringLiteral("Typed"));
+  pick(list("Cmb_StockUsed"), 1);
+  click("E_Price2");
+  paste_over(QStringLiteral("free"));
+  save();
+  EXPECT_EQ(log().back(), "FrmPrgPlu Salva: Type mismatch");
+  EXPECT_EQ(table_bytes(), memory);
+  EXPECT_EQ(file(), before);
+  EXPECT_EQ(number().number(), 2);
+  EXPECT_EQ(cell(2, 1), QStringLiteral("20"));
+
+  // A later save of another row finds the table in order, and nothing of the failed one in it.
+  go_to(5);
+  enter("E_FreeCode", QStringLiteral("15"));
+  save();
+  EXPECT_EQ(codes(6), Lines({"10", "15", "20", "30", "40", "0"}));
+  EXPECT_EQ(entry_code(1, 1), "20");
+  EXPECT_EQ(entry_code(3, 1), "0");
+  go_to(3);
+  EXPECT_EQ(shown("E_Name"), QStringLiteral("ITEM 20         "));
+}
+
+TEST_F(PluSave, ACorrectedSaveDoesWhatTheFailedOneWouldHaveDone) {
+  open_editor();
+  choose_list(2, 3);
+  enter("E_FreeCode", QStringLiteral("45"));
+  click("E_Price2");
+  paste_over(QStringLiteral("free"));
+  save();
+  click("E_Price2");
+  paste_over(QStringLiteral("7"));
+  save();
+  EXPECT_EQ(codes(5), Lines({"10", "30", "40", "45", "50"}));
+  EXPECT_EQ(entry_code(3, 1), "45");
+  EXPECT_EQ(entry_code(3, 2), "0") << "it is in the list once";
+  EXPECT_EQ(item(4).SendFlag, 1) << "the mark of the change has outlived the failed save";
+}
+
+TEST_F(PluSave, DecimalsThatNoAmountHasEndTheSave) {
+  Global::DecimalPoint = 255;
+  open_editor();
+  const std::string before = file();
+  const std::string memory = table_bytes();
+  EXPECT_EQ(shown("E_Price1"), QString{});
+  enter("E_Name", QStringLiteral("Typed"));
+  save();
+  EXPECT_EQ(log().back(), "FrmPrgPlu Salva: Overflow");
+  EXPECT_EQ(file(), before);
+  EXPECT_EQ(table_bytes(), memory);
+}
+
+TEST_F(PluSave, PricesAndStockThatCannotBeReadStayAsTheyAre) {
+  item(2).Price1.bytes = {0x1A, 2, 3, 4};
+  item(2).Price2.bytes = {0xFF, 0, 0, 0};
+  item(2).Stock.bytes = {0xA0, 1, 2, 3, 4, 5};
+  item(2).Flags1 = 0x81;
+  const PluRecord stood = item(2);
+  open_editor();
+  go_to(2);
+  EXPECT_EQ(shown("E_Price1"), QString{});
+  EXPECT_EQ(shown("E_StockCount"), QString{});
+  enter("E_Name", QStringLiteral("Typed"));
+  save();
+  EXPECT_EQ(item(2).Name.view(), "Typed           ");
+  EXPECT_EQ(item(2).Price1, stood.Price1);
+  EXPECT_EQ(item(2).Price2, stood.Price2);
+  EXPECT_EQ(item(2).Stock, stood.Stock);
+  EXPECT_EQ(item(2).Flags1, stood.Flags1) << "the bits of prices stay with them";
+}
+
+TEST_F(PluSave, AnItemWhoseCodeCannotBeReadIsNotTakenForAnEmptyRow) {
+  item(3).Code.bytes = {0x3A, 0, 0, 0, 0, 0, 0, 0};
+  const PluRecord stood = item(3);
+  Write_PrgPlu();
+  open_editor();
+  const std::string before = file();
+  go_to(3);
+  EXPECT_EQ(shown("E_FreeCode"), QString{});
+  save();
+  EXPECT_EQ(log().back(), "FrmPrgPlu Salva: Type mismatch");
+  EXPECT_EQ(file(), before);
+  // Saves of other items leave it in the table.
+  save_code(1, QStringLiteral("12"));
+  EXPECT_EQ(PrgPlu.PluCount, 5);
+  const auto found = std::find_if(PrgPlu.Row.begin(), PrgPlu.Row.begin() + 5,
+                                  [&](const PluRecord& row) { return row.Code == stood.Code; });
+  ASSERT_NE(found, PrgPlu.Row.begin() + 5);
+  EXPECT_EQ(found->Name.view(), stood.Name.view());
+  // With a code of its own, or erased, it can be saved again.
+  save_code(static_cast<int>(found - PrgPlu.Row.begin()) + 1, QStringLiteral("35"));
+  EXPECT_EQ(codes(5), Lines({"12", "20", "35", "40", "50"}));
 }
 
 TEST_F(PluSave, AStockThatIsNoNumberStays) {

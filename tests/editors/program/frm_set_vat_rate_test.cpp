@@ -263,12 +263,22 @@ TEST_F(FrmSetVatRateTest, SendSendsWhatWasSavedLast) {
   EXPECT_EQ(link().received[0].substr(rates_at, 4), four({0x05, 0x00, 0x00, 0x00}));
 }
 
-TEST_F(FrmSetVatRateTest, AFaultInTheLoadIsLoggedAndTheScreenStays) {
-  PrgMode.VatRate[1].bytes = {0x0A, 0, 0, 0};
+TEST_F(FrmSetVatRateTest, ABrokenRateIsLoggedAndTheOthersAreShownAndSaved) {
+  const std::string shown_before[] = {"22.000 %", "", "4.000 %", "7.500 %"};
+  set_rate(3, "4000");
+  PrgMode.VatRate[1].bytes = {0x0A, 0x11, 0x22, 0x33};
   open_editor();
-  EXPECT_EQ(log().back(), "FrmSetVatRate Form_load: Type mismatch");
-  EXPECT_EQ(rate(1).text(), QStringLiteral("22.000 %"));
+  EXPECT_EQ(log(), (Lines{"bcds_to_number Type mismatch", "FrmSetVatRate Form_load: Type mismatch"}));
+  for (int i = 1; i <= 4; ++i) {
+    EXPECT_EQ(rate(i).text().toStdString(), shown_before[static_cast<std::size_t>(i - 1)]) << i;
+  }
   EXPECT_EQ(top(), QStringLiteral("FrmSetVatRate"));
+  enter(4, QStringLiteral("9000"));
+  save();
+  EXPECT_EQ(log().size(), 2U) << "nothing is refused";
+  EXPECT_EQ(stored(2), four({0x0A, 0x11, 0x22, 0x33})) << "what could not be shown is as it was";
+  EXPECT_EQ(stored(3), four({0x00, 0x40, 0x00, 0x00}));
+  EXPECT_EQ(stored(4), four({0x00, 0x90, 0x00, 0x00}));
 }
 
 TEST_F(FrmSetVatRateTest, AFaultInTheSaveIsLoggedAndNothingIsWritten) {

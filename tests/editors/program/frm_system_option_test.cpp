@@ -292,18 +292,30 @@ TEST_F(FrmSystemOptionTest, UnknownDecimalsShowNothingAndSaveAsZero) {
   EXPECT_EQ(Global::DecimalPoint, 0);
 }
 
-TEST_F(FrmSystemOptionTest, ASaveWithATextThatIsNoNumberEndsThereWithALogLine) {
+TEST_F(FrmSystemOptionTest, ACounterThatCannotBeReadStaysAndTheOthersAreSaved) {
   PrgMode.SysOpt5.bytes = {0xAA, 0x01};
   lay_down(PrgMode);
   open_editor();
   EXPECT_EQ(shown("E_Z1CounterSetting"), QString{}) << "what can't be read is not shown";
-  const std::string before = image_file();
   enter("E_ConsecutiveReceipt", QStringLiteral("5"));
   pick(list("Cmb_DecimalPosition"), 0);
   save();
+  EXPECT_EQ(stored(receipt_at, 4), bytes_of({5, 0, 0, 0}));
+  EXPECT_EQ(stored(z1_at, 2), bytes_of({0xAA, 0x01}));
+  EXPECT_EQ(Global::DecimalPoint, 0);
+}
+
+TEST_F(FrmSystemOptionTest, ASaveWithATextThatIsNoNumberEndsThereWithALogLine) {
+  open_editor();
+  const std::string before = image_file();
+  enter("E_ConsecutiveReceipt", QStringLiteral("5"));
+  pick(list("Cmb_DecimalPosition"), 0);
+  click("E_Z1CounterSetting");
+  paste_over(QStringLiteral("word"));
+  button("C_Salva").click();
   EXPECT_EQ(log().back(), "FrmSystemOption Salva: Type mismatch");
   EXPECT_EQ(image_file(), before) << "nothing is written to the file";
-  EXPECT_EQ(PrgMode.SysOpt5.bytes[0], 0xAA) << "nor to the field";
+  EXPECT_EQ(file_bytes(PrgMode), before) << "nor to memory";
   EXPECT_EQ(Global::DecimalPoint, 2);
 }
 

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 #include <gtest/gtest.h>
 
@@ -61,13 +62,13 @@ class FrmInitialMenuTest : public OptionScreenTest {
   }
   [[nodiscard]] static std::string texts_now() { return texts_of(bytes_of_image(PrgMode)); }
 
-  /// The decimal digits of a packed field up to its first byte that is none, and nothing behind.
+  /// What a save leaves of the packed field: the decimal digits up to its first byte that is none, and nothing behind;
+  /// where there is no digit to read, all of it.
   static void keep_decimal_head(PrgModeImage& image) {
-    bool decimal = true;
-    for (std::uint8_t& byte : image.InitialMenuBlock5.bytes) {
-      decimal = decimal && byte >> 4 <= 9 && (byte & 15) <= 9;
-      if (!decimal) byte = 0;
-    }
+    auto& bytes = image.InitialMenuBlock5.bytes;
+    const auto is_decimal = [](std::uint8_t byte) { return byte >> 4 <= 9 && (byte & 15) <= 9; };
+    const auto broken = std::find_if_not(bytes.begin(), bytes.end(), is_decimal);
+    if (broken != bytes.begin()) std::fill(broken, bytes.end(), std::uint8_t{0});
   }
 };
 
@@ -317,6 +318,17 @@ TEST_F(FrmInitialMenuTest, ABusinessIdWithLeadingZerosSurvives) {
   EXPECT_EQ(field("E_BusinessID").text(), QStringLiteral("7"));
   click("C_Salva");
   EXPECT_EQ(PrgMode.InitialMenuBlock5, image.InitialMenuBlock5);
+}
+
+TEST_F(FrmInitialMenuTest, ABusinessIdThatCannotBeReadSurvivesUnseen) {
+  start_session(Global::model_z320);
+  PrgModeImage image = good_image(Global::model_z320);
+  image.InitialMenuBlock5.bytes = {0xA7, 0x01, 0x02, 0x03, 0x04};
+  lay_down(image);
+  open(screen);
+  EXPECT_EQ(field("E_BusinessID").text(), QString{});
+  click("C_Salva");
+  EXPECT_EQ(image_file().substr(25, 5), "\xA7\x01\x02\x03\x04");
 }
 
 // ---- the button of the option DEBUG
