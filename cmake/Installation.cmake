@@ -7,7 +7,8 @@
 set(VERMANTO_APP_DIR ${CMAKE_BINARY_DIR}/app)
 add_custom_target(installation ALL)
 
-# installed_files(FOLDER FILES... [COMPONENT program|register]): copies files to a folder of the installation.
+# installed_files(FOLDER FILES... [COMPONENT program|register]): copies files to a folder of the installation, in one step
+# that is done again when one of them has changed.
 function(installed_files folder)
   cmake_parse_arguments(INSTALLED "" "COMPONENT" "FILES" ${ARGN})
   if(NOT INSTALLED_COMPONENT)
@@ -16,22 +17,31 @@ function(installed_files folder)
   foreach(file IN LISTS INSTALLED_FILES)
     get_filename_component(source ${file} ABSOLUTE)
     get_filename_component(name ${file} NAME)
-    set(target ${VERMANTO_APP_DIR}/${folder}/${name})
-    add_custom_command(OUTPUT ${target}
-      COMMAND ${CMAKE_COMMAND} -E make_directory ${VERMANTO_APP_DIR}/${folder}
-      COMMAND ${CMAKE_COMMAND} -E copy ${source} ${target}
-      DEPENDS ${source} VERBATIM)
-    installed_output(${folder} ${target} ${INSTALLED_COMPONENT})
+    # Without the folder that all of them lie below, so that the command line stays short.
+    file(RELATIVE_PATH short ${CMAKE_CURRENT_SOURCE_DIR} ${source})
+    list(APPEND shorts ${short})
+    list(APPEND sources ${source})
+    list(APPEND targets ${VERMANTO_APP_DIR}/${folder}/${name})
   endforeach()
+  add_custom_command(OUTPUT ${targets}
+    COMMAND ${CMAKE_COMMAND} -E make_directory ${VERMANTO_APP_DIR}/${folder}
+    COMMAND ${CMAKE_COMMAND} -E copy ${shorts} ${VERMANTO_APP_DIR}/${folder}
+    DEPENDS ${sources} WORKING_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR}
+    COMMENT "Laying out ${folder}" VERBATIM)
+  installed_output(${folder} "${targets}" ${INSTALLED_COMPONENT})
 endfunction()
 
-# installed_output(FOLDER FILE COMPONENT): declares a file that a command of the build writes into the installation.
-function(installed_output folder file component)
-  string(MAKE_C_IDENTIFIER "installed_${folder}_${file}" name)
-  string(MD5 short ${name})
-  add_custom_target(installed_${short} DEPENDS ${file})
-  add_dependencies(installation installed_${short})
-  install(FILES ${file} DESTINATION ${folder} COMPONENT ${component})
+# installed_output(FOLDER FILES COMPONENT): declares files that a command of the build writes into the installation.
+function(installed_output folder files component)
+  set_property(DIRECTORY APPEND PROPERTY VERMANTO_INSTALLED ${files})
+  install(FILES ${files} DESTINATION ${folder} COMPONENT ${component})
+endfunction()
+
+# installation_target(NAME): a target for all that was declared in this folder so far.
+function(installation_target name)
+  get_property(files DIRECTORY PROPERTY VERMANTO_INSTALLED)
+  add_custom_target(${name} DEPENDS ${files})
+  add_dependencies(installation ${name})
 endfunction()
 
 # installed_program(TARGET): the executable or library goes to the top of the installation.

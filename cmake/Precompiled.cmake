@@ -37,7 +37,7 @@ if(VERMANTO_PRECOMPILE)
       <QPainter> <QPushButton> <QString> <QStringList> <QTabWidget> <QTableView> <QWidget>)
     precompiled(precompiled_toolkit HEADERS ${VERMANTO_STANDARD_HEADERS} ${VERMANTO_TOOLKIT_HEADERS} USES Qt6::Widgets)
   endif()
-  if(VERMANTO_TESTS)
+  if(VERMANTO_TESTS AND VERMANTO_CASES)
     precompiled(precompiled_cases HEADERS ${VERMANTO_STANDARD_HEADERS} <gtest/gtest.h> USES GTest::gtest PROGRAMS)
     if(VERMANTO_PROGRAM)
       precompiled(precompiled_screen_cases

@@ -12,10 +12,8 @@
 #include "emulator/tool_codes.h"
 #include "support/installation.h"
 
+namespace ecr::fuzz::bitmap_target {
 namespace {
-
-using namespace ecr;
-using namespace ecr::fuzz;
 
 constexpr std::array<std::int32_t, 5> faults = {PictureCode::no_bitmap, PictureCode::not_black_and_white,
                                                 PictureCode::unknown_type, PictureCode::too_many_dots,
@@ -38,7 +36,7 @@ void check_picture(const DotPicture& picture, const std::string& file) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+FUZZ_TARGET(bitmap) {
   const std::string file = file_of(data, size);
   DotPicture picture;
   const std::int32_t code = read_bitmap(file, picture);
@@ -52,3 +50,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (const auto held = picture_in_graphic(file)) require(graphic_of(*held) == file, "a logo is its own form");
   return 0;
 }
+
+}  // namespace ecr::fuzz::bitmap_target

@@ -13,10 +13,8 @@
 #include "image/prg_mode.h"
 #include "support/installation.h"
 
+namespace ecr::fuzz::caption_files_target {
 namespace {
-
-using namespace ecr;
-using namespace ecr::fuzz;
 
 constexpr char before = 0x5A;
 
@@ -111,7 +109,7 @@ void export_texts(const Installation& installation, const std::string& file) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+FUZZ_TARGET(caption_files) {
   static Installation installation;
   const std::string file = file_of(data, size);
   installation.reset();
@@ -121,3 +119,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   export_texts(installation, file);
   return 0;
 }
+
+}  // namespace ecr::fuzz::caption_files_target

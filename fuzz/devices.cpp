@@ -12,10 +12,8 @@
 #include "link/ports.h"
 #include "support/installation.h"
 
+namespace ecr::fuzz::devices_target {
 namespace {
-
-using namespace ecr;
-using namespace ecr::fuzz;
 
 constexpr std::string_view file_name = "register/devices.txt";
 
@@ -73,7 +71,7 @@ void walk_in_all_ways(const Installation& installation, const std::vector<std::s
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+FUZZ_TARGET(devices) {
   static Installation installation;
   const std::string file = file_of(data, size);
   std::vector<std::string> lines;
@@ -101,3 +99,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   installation.remove("register");
   return 0;
 }
+
+}  // namespace ecr::fuzz::devices_target

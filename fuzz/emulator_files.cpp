@@ -9,10 +9,8 @@
 #include "emulator/tool_codes.h"
 #include "support/installation.h"
 
+namespace ecr::fuzz::emulator_files_target {
 namespace {
-
-using namespace ecr;
-using namespace ecr::fuzz;
 
 constexpr std::uint8_t port = 4;
 
@@ -44,7 +42,7 @@ void send_and_fetch(const Installation& installation, const EmulatedRegister& ma
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+FUZZ_TARGET(emulator_files) {
   static Installation installation;
   static const EmulatedRegister machine{host_path(Global::PathApp)};
   const std::string file = file_of(data, size);
@@ -65,3 +63,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   installation.remove("Dati/GRAPHIC.BIN");
   return 0;
 }
+
+}  // namespace ecr::fuzz::emulator_files_target

@@ -10,10 +10,8 @@
 #include "emulator/settings.h"
 #include "support/installation.h"
 
+namespace ecr::fuzz::emulator_settings_target {
 namespace {
-
-using namespace ecr;
-using namespace ecr::fuzz;
 
 constexpr std::string_view file_name = "register/register.txt";
 constexpr std::array<std::string_view, 11> keys = {"model", "port",  "banner", "release", "delay", "answer",
@@ -86,7 +84,7 @@ void call(const Installation& installation, const std::string& folder) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+FUZZ_TARGET(emulator_settings) {
   static Installation installation;
   const std::string file = file_of(data, size);
   edit(file, keys[size % keys.size()]);
@@ -101,3 +99,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Global::crea_cartelle();
   return 0;
 }
+
+}  // namespace ecr::fuzz::emulator_settings_target

@@ -8,10 +8,8 @@
 #include "image/prg_mode.h"
 #include "support/installation.h"
 
+namespace ecr::fuzz::image_target {
 namespace {
-
-using namespace ecr;
-using namespace ecr::fuzz;
 
 constexpr std::string_view file_name = "Dati/PRG_MODE.BIN";
 
@@ -59,9 +57,11 @@ void read_and_write(Installation& installation, const std::string& file, std::ui
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+FUZZ_TARGET(image) {
   static Installation installation;
   const std::string file = file_of(data, size);
   for (const std::uint8_t model : {Global::model_z300, Global::model_z320}) read_and_write(installation, file, model);
   return 0;
 }
+
+}  // namespace ecr::fuzz::image_target

@@ -10,10 +10,8 @@
 #include "core/text.h"
 #include "support/installation.h"
 
+namespace ecr::fuzz::language_target {
 namespace {
-
-using namespace ecr;
-using namespace ecr::fuzz;
 
 constexpr char section_sign = '\xA7';
 
@@ -40,7 +38,7 @@ std::string as_file(const std::array<std::string, key_count>& texts) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+FUZZ_TARGET(language) {
   static Installation installation;
   const std::string file = file_of(data, size);
   installation.reset();
@@ -78,3 +76,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   }
   return 0;
 }
+
+}  // namespace ecr::fuzz::language_target

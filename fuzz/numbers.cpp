@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <fuzzer/FuzzedDataProvider.h>
 #include <span>
 #include <vector>
 
@@ -13,10 +12,8 @@
 #include "core/global.h"
 #include "support/installation.h"
 
+namespace ecr::fuzz::numbers_target {
 namespace {
-
-using namespace ecr;
-using namespace ecr::fuzz;
 
 /// What the text says, nothing if that is no number or too large a one.
 std::optional<Decimal> number_in(std::string_view text) {
@@ -172,19 +169,58 @@ void check_bits(std::uint8_t byte, std::uint8_t bit) {
   require(solo_numeri(key) == 0 || key == 8 || (key >= '0' && key <= '9'), "other keys are dropped");
 }
 
+/// Cuts the input into values: numbers from its end, texts from its beginning.
+class Cutter {
+ public:
+  Cutter(const std::uint8_t* data, std::size_t size) : rest_{reinterpret_cast<const char*>(data), size} {}
+
+  /// 0 where nothing is left.
+  std::uint8_t byte() {
+    if (rest_.empty()) return 0;
+    const auto last = static_cast<std::uint8_t>(rest_.back());
+    rest_.remove_suffix(1);
+    return last;
+  }
+  std::vector<std::uint8_t> bytes(std::size_t most) {
+    const std::string_view taken = rest_.substr(0, most);
+    rest_.remove_prefix(taken.size());
+    return {taken.begin(), taken.end()};
+  }
+  /// Up to a backslash with any other character behind it; two backslashes stand for one.
+  std::string text() {
+    std::string text;
+    while (!rest_.empty()) {
+      const char c = front();
+      if (c == '\\' && !rest_.empty() && front() != c) break;
+      text += c;
+    }
+    return text;
+  }
+  [[nodiscard]] std::string rest() const { return std::string{rest_}; }
+
+ private:
+  char front() {
+    const char c = rest_.front();
+    rest_.remove_prefix(1);
+    return c;
+  }
+
+  std::string_view rest_;
+};
+
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+FUZZ_TARGET(numbers) {
   static Installation installation;
   installation.reset();
-  FuzzedDataProvider input{data, size};
-  Global::DecimalPoint = input.ConsumeIntegral<std::uint8_t>();
-  const int decimals = input.ConsumeIntegral<std::int8_t>();
-  const int digits = input.ConsumeIntegral<std::int8_t>();
-  const auto byte = input.ConsumeIntegral<std::uint8_t>();
-  const auto field = input.ConsumeBytes<std::uint8_t>(input.ConsumeIntegralInRange<std::size_t>(0, 20));
-  const std::string first = input.ConsumeRandomLengthString();
-  const std::string second = input.ConsumeRemainingBytesAsString();
+  Cutter input{data, size};
+  Global::DecimalPoint = input.byte();
+  const int decimals = static_cast<std::int8_t>(input.byte());
+  const int digits = static_cast<std::int8_t>(input.byte());
+  const std::uint8_t byte = input.byte();
+  const std::vector<std::uint8_t> field = input.bytes(input.byte() % 21U);
+  const std::string first = input.text();
+  const std::string second = input.rest();
 
   check_texts(first, second, decimals, digits);
   check_field(field);
@@ -193,3 +229,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   require(installation.lines_in_log() <= 64, "a fault is logged once");
   return 0;
 }
+
+}  // namespace ecr::fuzz::numbers_target

@@ -8,10 +8,8 @@
 #include "image/prg_plu.h"
 #include "support/installation.h"
 
+namespace ecr::fuzz::plu_target {
 namespace {
-
-using namespace ecr;
-using namespace ecr::fuzz;
 
 constexpr std::string_view file_name = "Dati/PRG_PLU.BIN";
 
@@ -126,10 +124,12 @@ void read_old_format(Installation& installation, const std::string& file) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+FUZZ_TARGET(plu) {
   static Installation installation;
   const std::string file = file_of(data, size);
   read_new_format(installation, file);
   read_old_format(installation, file);
   return 0;
 }
+
+}  // namespace ecr::fuzz::plu_target

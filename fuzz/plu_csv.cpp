@@ -10,10 +10,8 @@
 #include "image/prg_plu.h"
 #include "support/installation.h"
 
+namespace ecr::fuzz::plu_csv_target {
 namespace {
-
-using namespace ecr;
-using namespace ecr::fuzz;
 
 std::string_view bytes_of(const PluRecord& record) {
   return {reinterpret_cast<const char*>(&record), sizeof record};
@@ -63,7 +61,7 @@ void export_and_import_again() {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+FUZZ_TARGET(plu_csv) {
   static Installation installation;
   installation.reset();
   Global::choose_model(Global::model_z320);
@@ -71,3 +69,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   export_and_import_again();
   return 0;
 }
+
+}  // namespace ecr::fuzz::plu_csv_target

@@ -10,10 +10,8 @@
 #include "image/prg_mode.h"
 #include "support/installation.h"
 
+namespace ecr::fuzz::register_language_target {
 namespace {
-
-using namespace ecr;
-using namespace ecr::fuzz;
 
 constexpr std::size_t texts_begin = offsetof(PrgModeImage, DeptGroupName);
 constexpr std::size_t texts_end = offsetof(PrgModeImage, KeyLayout);
@@ -29,7 +27,7 @@ std::string text_at(const TextPlace& place) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+FUZZ_TARGET(register_language) {
   static Installation installation;
   const std::string file = file_of(data, size);
   installation.reset();
@@ -58,3 +56,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   require(Setta_Lingua(0) == whole && image() == once, "reading it once more changes nothing");
   return 0;
 }
+
+}  // namespace ecr::fuzz::register_language_target

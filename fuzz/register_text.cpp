@@ -12,10 +12,8 @@
 #include "image/fields.h"
 #include "support/installation.h"
 
+namespace ecr::fuzz::register_text_target {
 namespace {
-
-using namespace ecr;
-using namespace ecr::fuzz;
 
 constexpr char16_t lead_byte = 195;
 
@@ -96,7 +94,7 @@ void small_operations(std::string_view text) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+FUZZ_TARGET(register_text) {
   static Installation installation;
   const std::string bytes = file_of(data, size);
   std::u16string characters(size / 2, u'\0');
@@ -120,3 +118,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   small_operations(bytes);
   return 0;
 }
+
+}  // namespace ecr::fuzz::register_text_target

@@ -7,10 +7,8 @@
 #include "link/firmware.h"
 #include "support/installation.h"
 
+namespace ecr::fuzz::release_banner_target {
 namespace {
-
-using namespace ecr;
-using namespace ecr::fuzz;
 
 constexpr std::size_t banner_width = 36;
 
@@ -54,7 +52,7 @@ void fetch(Installation& installation, const std::string& file) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+FUZZ_TARGET(release_banner) {
   static Installation installation;
   const std::string file = file_of(data, size);
   installation.reset();
@@ -63,3 +61,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   fetch(installation, file);
   return 0;
 }
+
+}  // namespace ecr::fuzz::release_banner_target

@@ -10,10 +10,8 @@
 #include "reports/report_table.h"
 #include "support/installation.h"
 
+namespace ecr::fuzz::report_csv_target {
 namespace {
-
-using namespace ecr;
-using namespace ecr::fuzz;
 
 void look_at_table(const ReportTable& table) {
   for (const auto& row : table.rows) require(row.size() == table.columns.size(), "a cell for every column");
@@ -39,7 +37,7 @@ void look_at_receipts(const CsvExport& journal) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+FUZZ_TARGET(report_csv) {
   static Installation installation;
   if (size < 1) return 0;
   installation.reset();
@@ -58,3 +56,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   require(installation.lines_in_log() == 0, "nothing is logged");
   return 0;
 }
+
+}  // namespace ecr::fuzz::report_csv_target

@@ -11,10 +11,8 @@
 #include "reports/export_report.h"
 #include "support/installation.h"
 
+namespace ecr::fuzz::reports_target {
 namespace {
-
-using namespace ecr;
-using namespace ecr::fuzz;
 
 std::size_t count_of(std::string_view text, char c) {
   return static_cast<std::size_t>(std::count(text.begin(), text.end(), c));
@@ -34,7 +32,7 @@ void check_lines(const ReportLayout& layout, const std::string& csv) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+FUZZ_TARGET(reports) {
   static Installation installation;
   if (size < 2) return 0;
   installation.reset();
@@ -65,3 +63,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   installation.remove("Dati/" + name + ".bin");
   return 0;
 }
+
+}  // namespace ecr::fuzz::reports_target

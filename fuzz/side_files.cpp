@@ -9,10 +9,8 @@
 #include "core/global.h"
 #include "support/installation.h"
 
+namespace ecr::fuzz::side_files_target {
 namespace {
-
-using namespace ecr;
-using namespace ecr::fuzz;
 
 struct SideFile {
   std::string_view name;
@@ -72,7 +70,7 @@ void read_journal(const Installation& installation, const std::string& file) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+FUZZ_TARGET(side_files) {
   static Installation installation;
   static const SideFile side_files[] = {
       {"Setup/Language.ini", {&LanguageNumber, 1}, Read_Language, Write_Language},
@@ -104,3 +102,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
           "the port goes over the first byte");
   return 0;
 }
+
+}  // namespace ecr::fuzz::side_files_target

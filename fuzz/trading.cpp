@@ -18,10 +18,8 @@
 #include "image/prg_plu.h"
 #include "support/installation.h"
 
+namespace ecr::fuzz::trading_target {
 namespace {
-
-using namespace ecr;
-using namespace ecr::fuzz;
 using trading::Range;
 
 std::int64_t amount_at(std::string_view report, std::size_t place) {
@@ -71,7 +69,7 @@ void expect_agreement(std::string_view folder) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+FUZZ_TARGET(trading) {
   static const Installation installation;
   const std::string file = file_of(data, size);
   const std::string folder = Global::PathApp + "register\\";
@@ -93,3 +91,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   installation.remove("register");
   return 0;
 }
+
+}  // namespace ecr::fuzz::trading_target

@@ -1,7 +1,8 @@
-# Sourced by ./run and ./test: installs the Debian packages that are missing. The README says what each is for.
+# Sourced by ./run, ./test and tools/: installs the Debian packages that are missing. The README says what each is for.
 
 packages_to_build="g++ cmake ninja-build ccache mold qt6-base-dev libxkbcommon-dev fonts-dejavu-core"
-packages_to_test="libgtest-dev libgmock-dev clang libclang-rt-14-dev"
+packages_to_test="libgtest-dev libgmock-dev"
+packages_to_fuzz="clang libclang-rt-14-dev"
 
 # need_packages PACKAGE...
 need_packages() {

@@ -16,6 +16,14 @@
 #include "core/system.h"
 #include "link/library.h"
 
+/// The head of a target: FUZZ_TARGET(image) { ... return 0; } takes the input as `data` and `size`. Where all targets are
+/// parts of one program each has a name of its own.
+#ifdef FUZZ_REPLAY
+#define FUZZ_TARGET(name) extern "C" int fuzz_##name(const std::uint8_t* data, std::size_t size)
+#else
+#define FUZZ_TARGET(name) extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+#endif
+
 namespace ecr::fuzz {
 
 /// Ends the run with what was broken, so that the input is kept.

@@ -12,7 +12,7 @@ namespace {
 
 // A bitmap file: a head of 14 bytes, a description whose first four bytes tell its own length, a colour for each value
 // that a dot can have, and rows of dots, filled up to a multiple of four bytes. Integers have their low byte first.
-constexpr std::size_t head_size = 14;
+constexpr std::size_t bitmap_head = 14;
 constexpr std::size_t shortest_description = 40;
 /// Of the descriptions with these lengths the first forty bytes are the same.
 constexpr std::array<std::size_t, 5> known_descriptions = {40, 52, 56, 108, 124};
@@ -69,7 +69,7 @@ bool DotPicture::is_printed(std::size_t dot, std::size_t line) const {
 
 std::int32_t read_bitmap(std::string_view bytes, DotPicture& picture) {
   picture = {};
-  if (!bytes.starts_with("BM") || bytes.size() < head_size + shortest_description) return PictureCode::no_bitmap;
+  if (!bytes.starts_with("BM") || bytes.size() < bitmap_head + shortest_description) return PictureCode::no_bitmap;
   const std::size_t description = number_at(bytes, Place::description, 4);
   if (std::find(known_descriptions.begin(), known_descriptions.end(), description) == known_descriptions.end()) {
     return PictureCode::unknown_type;
@@ -81,7 +81,7 @@ std::int32_t read_bitmap(std::string_view bytes, DotPicture& picture) {
   if (number_at(bytes, Place::packing, 4) != 0) return PictureCode::unknown_type;
   if (static_cast<std::size_t>(width) > most_dots_in_a_line) return PictureCode::too_many_dots;
 
-  const std::size_t palette = head_size + description;
+  const std::size_t palette = bitmap_head + description;
   const std::uint32_t colours_used = number_at(bytes, Place::colours_used, 4);
   const std::size_t dots_begin = number_at(bytes, Place::dots, 4);
   if (colours_used != 0 && colours_used != colours) return PictureCode::no_bitmap;

@@ -8,7 +8,7 @@
 namespace ecr {
 namespace {
 
-constexpr std::size_t head_size = 4;
+constexpr std::size_t graphic_head = 4;
 
 std::string two_bytes(std::size_t number) {
   return {static_cast<char>(number & 0xFF), static_cast<char>(number >> 8)};
@@ -19,7 +19,7 @@ std::size_t number_at(std::string_view bytes, std::size_t place) {
 }
 
 std::size_t size_of_graphic(const DotPicture& picture) {
-  return head_size + picture.row_bytes() * picture.lines;
+  return graphic_head + picture.row_bytes() * picture.lines;
 }
 
 }  // namespace
@@ -36,10 +36,10 @@ std::string graphic_of(const DotPicture& picture) {
 }
 
 std::optional<DotPicture> picture_in_graphic(std::string_view bytes) {
-  if (bytes.size() < head_size) return std::nullopt;
+  if (bytes.size() < graphic_head) return std::nullopt;
   DotPicture picture{number_at(bytes, 0), number_at(bytes, 2), {}};
   if (!fits_graphic(picture) || bytes.size() != size_of_graphic(picture)) return std::nullopt;
-  picture.rows = bytes.substr(head_size);
+  picture.rows = bytes.substr(graphic_head);
   return picture;
 }
 

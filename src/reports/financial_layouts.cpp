@@ -5,9 +5,9 @@
 namespace ecr {
 namespace {
 
-constexpr ColumnKind value = ColumnKind::value;
-constexpr ColumnKind count = ColumnKind::count;
-constexpr ColumnKind byte = ColumnKind::byte;
+using ColumnKind::byte;
+using ColumnKind::count;
+using ColumnKind::value;
 
 template <std::size_t N, std::size_t M>
 constexpr std::array<ReportColumn, N> first_of(const std::array<ReportColumn, M>& columns) {

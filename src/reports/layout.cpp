@@ -8,8 +8,8 @@
 namespace ecr {
 namespace {
 
-constexpr ColumnKind value = ColumnKind::value;
-constexpr ColumnKind count = ColumnKind::count;
+using ColumnKind::count;
+using ColumnKind::value;
 
 constexpr std::size_t drawer_size = 40;
 constexpr std::size_t department_size = 16;

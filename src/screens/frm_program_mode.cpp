@@ -13,7 +13,7 @@ namespace ecr {
 namespace {
 
 // clang-format off
-constexpr MenuRow rows[] = {
+constexpr MenuRow program_menu[] = {
     {.control = "C_SetVatRate", .key = Key::FRM_PROGRAM_MODE_C_SET_VAT_RATE, .built_in = "Set VAT Rate",
      .opens = "FrmSetVatRate"},
     {.control = "C_DepartmentProgram", .key = Key::FRM_PROGRAM_MODE_C_DEPARTMENT_PROGRAM,
@@ -51,7 +51,7 @@ constexpr MenuRow rows[] = {
 }  // namespace
 
 FrmProgramMode::FrmProgramMode()
-    : MenuScreen{QStringLiteral("FrmProgramMode"), rows, 3, Key::FRM_ALL_C_ANNULLA, "Back"} {
+    : MenuScreen{QStringLiteral("FrmProgramMode"), program_menu, 3, Key::FRM_ALL_C_ANNULLA, "Back"} {
   captions_.add(*this, Key::FRM_PROGRAM_MODE_TITLE, "Program Mode");
   set_routine("C_Custom_Import", [this] { import_captions(); });
 }

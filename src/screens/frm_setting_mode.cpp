@@ -4,7 +4,7 @@ namespace ecr {
 namespace {
 
 // clang-format off
-constexpr MenuRow rows[] = {
+constexpr MenuRow setting_menu[] = {
     {.control = "C_Initial_Setup", .key = Key::FRM_SETTING_C_INITIAL_SETUP, .built_in = "Initial Setup",
      .opens = "FrmInitialMenu"},
     {.control = "C_Working_Mode", .key = Key::FRM_SETTING_C_WORKING_MODE, .built_in = "Operating Mode",
@@ -24,7 +24,7 @@ constexpr MenuRow rows[] = {
 }  // namespace
 
 FrmSettingMode::FrmSettingMode()
-    : MenuScreen{QStringLiteral("FrmSettingMode"), rows, 2, Key::FRM_SETTING_C_EXIT, "BACK"} {
+    : MenuScreen{QStringLiteral("FrmSettingMode"), setting_menu, 2, Key::FRM_SETTING_C_EXIT, "BACK"} {
   captions_.add(*this, Key::FRM_SETTING_MODE_TITLE, "Setup Mode");
 }
 

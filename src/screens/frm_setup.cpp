@@ -11,7 +11,7 @@ namespace ecr {
 namespace {
 
 // clang-format off
-constexpr MenuRow rows[] = {
+constexpr MenuRow main_menu[] = {
     {.control = "C_ProgramMode", .key = Key::FRM_SETUP_C_PROGRAM_MODE, .built_in = "Program Mode",
      .opens = "FrmProgramMode"},
     {.control = "C_SettingMode", .key = Key::FRM_SETUP_C_SETTING_MODE, .built_in = "Setup Mode",
@@ -28,7 +28,7 @@ constexpr MenuRow rows[] = {
 
 }  // namespace
 
-FrmSetup::FrmSetup() : MenuScreen{QStringLiteral("FrmSetup"), rows, 2, Key::FRM_SETUP_C_EXIT, "BACK"} {
+FrmSetup::FrmSetup() : MenuScreen{QStringLiteral("FrmSetup"), main_menu, 2, Key::FRM_SETUP_C_EXIT, "BACK"} {
   setWindowTitle(QStringLiteral("Vermanto ECR programming Utility"));
   set_routine("C_Reset", [this] { reset_register(); });
   set_routine("C_ExportCaption", [this] { export_captions(); });

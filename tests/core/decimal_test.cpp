@@ -12,7 +12,7 @@
 #include "core/fault.h"
 #include "support/random.h"
 
-namespace ecr::test {
+namespace ecr::test::decimal_cases {
 namespace {
 
 /// A number as digits on paper: sign, whole digits and decimals, without needless zeros.
@@ -447,4 +447,4 @@ TEST(DecimalNumber, PrintsAPointWhateverTheLocaleSays) {
 }
 
 }  // namespace
-}  // namespace ecr::test
+}  // namespace ecr::test::decimal_cases

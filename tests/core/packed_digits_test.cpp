@@ -8,7 +8,7 @@
 
 #include "support/random.h"
 
-namespace ecr::test {
+namespace ecr::test::packed_digits_cases {
 namespace {
 
 /// Digits, highest first, an even number of them, as a packed field.
@@ -67,4 +67,4 @@ TEST(PackedDigits, WhatIsEmptyOrTooWideIsRefused) {
 }
 
 }  // namespace
-}  // namespace ecr::test
+}  // namespace ecr::test::packed_digits_cases

@@ -9,7 +9,7 @@
 
 #include "support/random.h"
 
-namespace ecr::test {
+namespace ecr::test::text_cases {
 namespace {
 
 using Lines = std::vector<std::string_view>;
@@ -119,4 +119,4 @@ TEST(ByteTexts, ReplaceNeverChangesTheLength) {
 }
 
 }  // namespace
-}  // namespace ecr::test
+}  // namespace ecr::test::text_cases

@@ -272,42 +272,5 @@ TEST_F(ProgrammingFiles, TellWhichFileIsWrong) {
   EXPECT_NE(complaint_of("missing.txt").find("missing.txt:0: "), std::string::npos);
 }
 
-TEST(ImageLayout, TellsWhatAByteBelongsTo) {
-  EXPECT_EQ(describe_image_byte(0), "Set00_InitialMenu");
-  EXPECT_EQ(describe_image_byte(38), "VatRate[1], byte 0");
-  EXPECT_EQ(describe_image_byte(329 + 22 * 6 + 18 + 3), "Dept[7].Price, byte 3");
-  EXPECT_EQ(describe_image_byte(2507 + 28 * 14 + 24), "Clerk[15].Rights");
-  EXPECT_EQ(describe_image_byte(326 + 2), "SysOpt2[3]");
-  EXPECT_EQ(describe_image_byte(176 + 8 * 4 + 1), "AdvSet8[5], byte 1");
-  EXPECT_EQ(describe_image_byte(5567), "KeyLayout[0]");
-  EXPECT_EQ(describe_image_byte(5655), "KeyLayout[88]");
-  EXPECT_EQ(describe_image_byte(5656), "");
-}
-
-TEST(ImageLayout, LeadsBackFromEveryByteToItself) {
-  for (std::size_t offset = 0; offset < prg_mode_size; ++offset) {
-    const BytePlace place = place_of_byte(image_fields, offset);
-    ASSERT_NE(place.field, nullptr) << offset;
-    EXPECT_EQ(place.field->offset_of(place.number) + place.byte, offset);
-  }
-  for (std::size_t offset = 0; offset < sizeof(PluRecord); ++offset) {
-    const BytePlace place = place_of_byte(item_fields, offset);
-    ASSERT_NE(place.field, nullptr) << offset;
-    EXPECT_EQ(place.field->offset_of(place.number) + place.byte, offset);
-  }
-  EXPECT_EQ(place_of_byte(item_fields, sizeof(PluRecord)).field, nullptr);
-}
-
-TEST(ImageLayout, KnowsAllKindsOfFields) {
-  EXPECT_EQ(field_named(image_fields, "Dept.Name")->kind, FieldKind::text);
-  EXPECT_EQ(field_named(image_fields, "Dept.Price")->kind, FieldKind::bcd);
-  EXPECT_EQ(field_named(image_fields, "Dept.Status1")->kind, FieldKind::byte);
-  EXPECT_EQ(field_named(image_fields, "Spare4")->kind, FieldKind::opaque);
-  EXPECT_EQ(field_named(image_fields, "Dept.Price")->count, 99U);
-  EXPECT_EQ(field_named(image_fields, "Dept.Price")->stride, 22U);
-  EXPECT_EQ(field_named(item_fields, "Plu.Stock")->width, 6U);
-  EXPECT_EQ(field_named(image_fields, "Plu.Stock"), nullptr);
-}
-
 }  // namespace
 }  // namespace ecr::test

@@ -21,7 +21,7 @@
 #include "image/prg_mode.h"
 #include "image/prg_plu.h"
 
-namespace ecr::test {
+namespace ecr::test::programming_cases {
 namespace {
 
 constexpr std::uint8_t z300 = 0;
@@ -464,4 +464,4 @@ TEST(EmulatedRegister, AnswersAtFirstWithoutFaults) {
 }
 
 }  // namespace
-}  // namespace ecr::test
+}  // namespace ecr::test::programming_cases

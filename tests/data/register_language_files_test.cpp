@@ -18,7 +18,7 @@
 #include "make_programming/source.h"
 #include "support/installation.h"
 
-namespace ecr::test {
+namespace ecr::test::register_language_files_cases {
 namespace {
 
 constexpr char lead_byte = '\xC3';
@@ -187,4 +187,4 @@ TEST_F(RegisterLanguages, ASourceIsRefusedForWhatTheFileCannotHold) {
 }
 
 }  // namespace
-}  // namespace ecr::test
+}  // namespace ecr::test::register_language_files_cases

@@ -7,7 +7,7 @@
 #include "support/bitmap_file.h"
 #include "support/random.h"
 
-namespace ecr::test {
+namespace ecr::test::bitmap_cases {
 namespace {
 
 constexpr std::int32_t no_bitmap = 0x10010000;
@@ -206,4 +206,4 @@ TEST(Bitmap, BytesOverwrittenAtRandomDoNoHarm) {
 }
 
 }  // namespace
-}  // namespace ecr::test
+}  // namespace ecr::test::bitmap_cases

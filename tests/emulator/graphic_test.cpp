@@ -7,7 +7,7 @@
 
 #include "emulator/receipt.h"
 
-namespace ecr::test {
+namespace ecr::test::graphic_cases {
 namespace {
 
 const DotPicture small{10, 2, std::string{"\x80\x40\x40\x00", 4}};
@@ -166,4 +166,4 @@ TEST(Receipt, AVeryLongLogoIsCut) {
 }
 
 }  // namespace
-}  // namespace ecr::test
+}  // namespace ecr::test::graphic_cases

@@ -1,5 +1,6 @@
 // Every screen of the program on both models, at the size it opens with and at the smallest one, with and without a
-// catalogue. This program runs twice, the second time on a display with twice the pixels.
+// catalogue, each opened once for all checks. What lies at every size runs once more on a display with twice the
+// pixels.
 
 #include <cctype>
 #include <gtest/gtest.h>
@@ -21,7 +22,27 @@
 namespace ecr::test {
 namespace {
 
-using Check = std::function<QStringList(QWidget&)>;
+constexpr std::string_view english = "FrmDescEng.txt";
+
+struct Check {
+  const char* of;
+  QStringList (*complaints)(QWidget& screen);
+};
+
+const std::vector<Check> all_checks = {
+    {"names", [](QWidget& screen) { return complaints_about_names(screen); }},
+    {"texts", [](QWidget& screen) { return complaints_about_cut_texts(screen); }},
+    {"places", [](QWidget& screen) { return complaints_about_places(screen); }},
+    {"letter marks", [](QWidget& screen) { return complaints_about_letter_marks(screen); }},
+    {"silent controls", [](QWidget& screen) { return complaints_about_silent_controls(screen); }},
+    {"the way by Tab", complaints_about_tab},
+};
+// What changes with the language.
+const std::vector<Check> of_texts = {
+    {"texts", [](QWidget& screen) { return complaints_about_cut_texts(screen); }},
+    {"places", [](QWidget& screen) { return complaints_about_places(screen); }},
+    {"letter marks", [](QWidget& screen) { return complaints_about_letter_marks(screen); }},
+};
 
 class EveryScreen : public ScreenTest, public ::testing::WithParamInterface<std::string> {
  protected:
@@ -46,9 +67,13 @@ class EveryScreen : public ScreenTest, public ::testing::WithParamInterface<std:
     return &open(name);
   }
 
-  static void look_at(QWidget& screen, const Check& check, const std::string& when) {
+  static void look_at(QWidget& screen, const std::vector<Check>& checks, const std::string& when) {
     let_screens_settle();
-    for (const QString& complaint : check(screen)) ADD_FAILURE() << complaint.toStdString() << ", " << when;
+    for (const Check& check : checks) {
+      for (const QString& complaint : check.complaints(screen)) {
+        ADD_FAILURE() << check.of << ": " << complaint.toStdString() << ", " << when;
+      }
+    }
   }
 
   /// The language that a file belongs to; what is built in without any is English.
@@ -59,12 +84,12 @@ class EveryScreen : public ScreenTest, public ::testing::WithParamInterface<std:
     return 0;
   }
 
-  /// Runs the check in each of the ways in which the screen can be seen: with the built-in captions and in English.
-  void look_in_every_way(const Check& check) {
-    look({"", "FrmDescEng.txt"}, {Global::model_z300, Global::model_z320}, check);
-  }
-
-  void look(const std::vector<std::string_view>& files, const std::vector<std::uint8_t>& models, const Check& check) {
+  /// Opens the screen in every combination, and checks on each of its tabs.
+  void look(const std::vector<std::string_view>& files, const std::vector<std::uint8_t>& models,
+            const std::vector<Check>& checks) {
+    if (qEnvironmentVariableIsSet("QT_SCALE_FACTOR")) {
+      ASSERT_EQ(stage.devicePixelRatioF(), qEnvironmentVariable("QT_SCALE_FACTOR").toDouble());
+    }
     for (const std::string_view file : files) {
       reset_catalogue();
       ASSERT_TRUE(file.empty() || read_language_file(file));
@@ -79,11 +104,11 @@ class EveryScreen : public ScreenTest, public ::testing::WithParamInterface<std:
           const std::string when = std::string{model == Global::model_z320 ? "Z320" : "Z300"} + " at " +
                                    std::to_string(size.width()) + " x " + std::to_string(size.height()) + ", " +
                                    (file.empty() ? "built-in captions" : std::string{file});
-          look_at(*screen, check, when);
+          look_at(*screen, checks, when);
           for (auto* tabs : screen->findChildren<QTabWidget*>()) {
             for (int i = 1; i < tabs->count(); ++i) {
               tabs->setCurrentIndex(i);
-              look_at(*screen, check, when + ", tab " + std::to_string(i) + " of " + tabs->objectName().toStdString());
+              look_at(*screen, checks, when + ", tab " + std::to_string(i) + " of " + tabs->objectName().toStdString());
             }
             // Tabs may lie on the first tab of others.
             tabs->setCurrentIndex(0);
@@ -98,42 +123,17 @@ class EveryScreen : public ScreenTest, public ::testing::WithParamInterface<std:
   }
 };
 
-using AtEverySize = EveryScreen;
-using InEveryLanguage = EveryScreen;
-
-TEST_P(AtEverySize, ControlsHaveNamesOfTheirOwn) {
-  look_in_every_way(complaints_about_names);
+TEST_P(EveryScreen, StandsAndIsReachedAtEverySize) {
+  look({"", english}, {Global::model_z300, Global::model_z320}, all_checks);
 }
 
-TEST_P(AtEverySize, NoTextIsCutOff) {
-  look_in_every_way(complaints_about_cut_texts);
-}
-
-TEST_P(AtEverySize, NothingOverlapsOrReachesOut) {
-  look_in_every_way(complaints_about_places);
-}
-
-TEST_P(AtEverySize, WhatTakesTheFocusSaysWhatItIs) {
-  look_in_every_way(complaints_about_silent_controls);
-}
-
-TEST_P(AtEverySize, TabReachesEverything) {
-  look_in_every_way(complaints_about_tab);
-}
-
-TEST_P(AtEverySize, TheDisplayIsTheOneThatWasAskedFor) {
-  const double wanted =
-      qEnvironmentVariableIsSet("QT_SCALE_FACTOR") ? qEnvironmentVariable("QT_SCALE_FACTOR").toDouble() : 1;
-  EXPECT_EQ(stage.devicePixelRatioF(), wanted);
-}
-
-// The Z320 has every control that the Z300 has.
-TEST_P(InEveryLanguage, EveryTextHasItsRoomAndNoLetterIsMarkedTwice) {
+// English is among the above. The Z320 has every control that the Z300 has.
+TEST_P(EveryScreen, HasRoomForEveryLanguageAndMarksNoLetterTwice) {
   std::vector<std::string_view> files;
-  for (const Language& language : languages) files.push_back(language.file);
-  look(files, {Global::model_z320}, [](QWidget& screen) {
-    return complaints_about_cut_texts(screen) + complaints_about_places(screen) + complaints_about_letter_marks(screen);
-  });
+  for (const Language& language : languages) {
+    if (language.file != english) files.push_back(language.file);
+  }
+  look(files, {Global::model_z320}, of_texts);
 }
 
 std::vector<std::string> all_screens() {
@@ -143,9 +143,7 @@ std::vector<std::string> all_screens() {
   return names;
 }
 
-INSTANTIATE_TEST_SUITE_P(OfTheProgram, AtEverySize, ::testing::ValuesIn(all_screens()),
-                         [](const auto& screen) { return screen.param; });
-INSTANTIATE_TEST_SUITE_P(OfTheProgram, InEveryLanguage, ::testing::ValuesIn(all_screens()),
+INSTANTIATE_TEST_SUITE_P(OfTheProgram, EveryScreen, ::testing::ValuesIn(all_screens()),
                          [](const auto& screen) { return screen.param; });
 
 }  // namespace

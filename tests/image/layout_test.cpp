@@ -20,10 +20,14 @@ TEST(ImageLayout, TellsWhatStandsAtAByte) {
       {94, "InstoreBarcode[1].FlagCode, byte 0"},
       {96, "InstoreBarcode[1].DigitsOfFlag"},
       {173, "InstoreBarcode[10].NewsPaper"},
+      {209, "AdvSet8[5], byte 1"},
+      {328, "SysOpt2[3]"},
       {329, "Dept[1].Name, byte 0"},
       {347, "Dept[1].Price, byte 0"},
+      {482, "Dept[7].Price, byte 3"},
       {2506, "Dept[99].Price, byte 3"},
       {2507, "Clerk[1].Name, byte 0"},
+      {2923, "Clerk[15].Rights"},
       {2987, "ForeignCurrency[4].Rate, byte 0"},
       {3116, "Tender[9].Options"},
       {5567, "KeyLayout[0]"},
@@ -57,7 +61,23 @@ TEST(ImageLayout, TellsWhatStandsInAnItem) {
     EXPECT_EQ(place.field->name, name);
     EXPECT_EQ(place.byte, 0U);
   }
+  for (std::size_t offset = 0; offset < 44; ++offset) {
+    const BytePlace place = place_of_byte(item_fields, offset);
+    ASSERT_NE(place.field, nullptr) << offset;
+    EXPECT_EQ(place.field->offset_of(place.number) + place.byte, offset);
+  }
   EXPECT_EQ(place_of_byte(item_fields, 44).field, nullptr);
+  EXPECT_EQ(field_named(item_fields, "Plu.Stock")->width, 6U);
+}
+
+TEST(ImageLayout, TellsAFieldsKindNumberAndDistance) {
+  EXPECT_EQ(field_named(image_fields, "Dept.Name")->kind, FieldKind::text);
+  EXPECT_EQ(field_named(image_fields, "Dept.Price")->kind, FieldKind::bcd);
+  EXPECT_EQ(field_named(image_fields, "Dept.Status1")->kind, FieldKind::byte);
+  EXPECT_EQ(field_named(image_fields, "Spare4")->kind, FieldKind::opaque);
+  EXPECT_EQ(field_named(image_fields, "Dept.Price")->count, 99U);
+  EXPECT_EQ(field_named(image_fields, "Dept.Price")->stride, 22U);
+  EXPECT_EQ(field_named(image_fields, "Plu.Stock"), nullptr) << "it belongs to the items";
 }
 
 TEST(ImageLayout, FindsAFieldByItsExactName) {

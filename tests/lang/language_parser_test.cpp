@@ -157,7 +157,7 @@ TEST_F(LanguageParser, SurvivesAnyBytes) {
   Random random{91001};
   for (int round = 0; round < 50; ++round) parse_language(random.bytes(random.below(5000)));
   parse_language(std::string(100000, '='));
-  parse_language(std::string(100000, 'K') + "=x");
+  parse_language(std::string(100000, 'K').append("=x"));
   parse_language("FRM_ALL_TITLE=" + std::string(100000, 't'));
   EXPECT_EQ(title(), std::string(100000, 't'));
 }

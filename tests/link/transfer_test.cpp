@@ -14,7 +14,7 @@
 #include "support/installation.h"
 #include "support/random.h"
 
-namespace ecr::test {
+namespace ecr::test::transfer_cases {
 namespace {
 
 using Lines = std::vector<std::string>;
@@ -614,4 +614,4 @@ TEST_F(DefaultFiles, AFolderInPlaceOfAFileIsShownAndLogged) {
 }
 
 }  // namespace
-}  // namespace ecr::test
+}  // namespace ecr::test::transfer_cases

@@ -17,9 +17,10 @@ class JournalExport : public ReportTest {
     return bytes + "\x01\x02";
   }
 
-  static std::string padded_line(std::string text) {
-    text.resize(24, ' ');
-    return text;
+  static std::string padded_line(std::string_view text) {
+    std::string line(24, ' ');
+    line.replace(0, text.size(), text);
+    return line;
   }
 };
 

@@ -184,7 +184,7 @@ TEST_F(FrmReportViewTest, PicturesAreThereWhereAReportHasSome) {
 }
 
 TEST_F(FrmReportViewTest, AJournalIsPagedThroughReceiptByReceipt) {
-  const std::string blank = std::string(24, ' ') + "\r\n";
+  const std::string blank = std::string(24, ' ').append("\r\n");
   write("Report/FULL EJ.csv",
         "LineFromEj\r\nCOFFEE; black\r\nTOTAL 2.50\r\n" + blank + "TEA\r\n" + blank + "CAF\xC9\r\n" + blank);
   open_viewer();

@@ -6,6 +6,7 @@ click C_ModificaProgrammazione
 box plain * Yes
 click C_ProgramMode
 click C_InstoreBarcodeSetting
+screen FrmInstoreBarcodeSetting
 expect-title "In-store barcodes"
 expect L_InstoreBarcodeSettingNumber "Barcode rule number"
 expect L_Instore "Flag code"

@@ -5,6 +5,7 @@ click C_Z320
 click C_ModificaProgrammazione
 box plain * Yes
 click C_MessageSetup
+screen FrmCaptionSetting
 
 key Tab
 expect-focus Chk_Double

@@ -6,6 +6,7 @@ click C_ModificaProgrammazione
 box plain * Yes
 click C_ProgramMode
 click C_ClerkSystemProgram
+screen FrmClerkSystemProgram
 expect-focus Cmb_ClerkNumber
 key Down
 expect E_Name "Marc"

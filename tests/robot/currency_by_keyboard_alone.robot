@@ -6,6 +6,7 @@ click C_ModificaProgrammazione
 box plain * Yes
 click C_ProgramMode
 click C_ForeignCurrencyProgram
+screen FrmFCRatingSetting
 expect-focus E_Name(0)
 keys "Euro"
 key Tab

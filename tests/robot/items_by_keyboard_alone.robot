@@ -6,6 +6,7 @@ click C_ModificaProgrammazione
 box plain * Yes
 click C_ProgramMode
 click C_PluProgram
+screen FrmPrgPlu
 expect-focus Cmb_PluNumber
 keys "5"
 expect E_FreeCode "5"

@@ -6,6 +6,7 @@ click C_ModificaProgrammazione
 box plain * Yes
 click C_ProgramMode
 click C_PermissionProgram
+screen FrmPermissionProgram
 expect-title "Passwords"
 expect L_ManagerModePassword "Manager mode password"
 expect L_MaxValue(1) "(max. 9999)"

@@ -7,6 +7,7 @@ click C_ModificaProgrammazione
 box plain * Yes
 click C_ProgramMode
 click C_PercentageProgram
+screen FrmPercentageMenu
 expect-items Cmb_P1Sign "0.Add-on" "1.Discount"
 expect-items Cmb_P2Sign "0.Discount" "1.Add-on"
 expect Cmb_P1Sign "0.Add-on"

@@ -6,6 +6,7 @@ click C_ModificaProgrammazione
 box plain * Yes
 click C_ProgramMode
 click C_PO_RA_M_P_Key_Program
+screen FrmPORAMPKeyMenu
 expect-focus Cmb_RAKeyHDLOSetting
 expect Cmb_RAKeyHDLOSetting "4. Up to 999.99"
 keys "0N"

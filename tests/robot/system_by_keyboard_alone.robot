@@ -6,6 +6,7 @@ click C_ModificaProgrammazione
 box plain * Yes
 click C_ProgramMode
 click C_SystemOption
+screen FrmSystemOption
 expect-focus Cmb_DecimalPosition
 key Up
 expect Cmb_DecimalPosition "1. Tenths (5.0)"

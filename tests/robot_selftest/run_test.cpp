@@ -121,6 +121,16 @@ TEST_F(ARun, GivesEachScriptAFreshInstallation) {
   EXPECT_EQ(read(QStringLiteral(PRACTICE_APP "/Setup/words.txt")), QStringLiteral("one\r\ntwo\r\nthree"));
 }
 
+TEST_F(ARun, ChangesNoPageOfTheUntouchedManual) {
+  const QString text = QStringLiteral(
+      "expect-text help/eng/contents.html \"<p>Contents</p>\\n\"\npoke help/eng/contents.html 3 78\n"
+      "expect-text help/eng/contents.html \"<p>xontents</p>\\n\"\ndelete help/eng/second.html\n");
+  const Outcome outcome = run({script(text), script(text)});
+  EXPECT_EQ(outcome.status, 0) << outcome.text().toStdString();
+  EXPECT_EQ(read(QStringLiteral(PRACTICE_APP "/help/eng/contents.html")), QStringLiteral("<p>Contents</p>\n"));
+  EXPECT_EQ(read(QStringLiteral(PRACTICE_APP "/help/eng/second.html")), QStringLiteral("<p>Second</p>\n"));
+}
+
 TEST_F(ARun, RemovesTheInstallationAlsoWhenTheScriptFails) {
   EXPECT_EQ(run({script(QStringLiteral("start\nexpect-ended"))}).status, 1);
   EXPECT_EQ(leftovers(), QStringList{});
@@ -131,7 +141,12 @@ TEST_F(ARun, KeepsTheInstallationWhenAsked) {
   EXPECT_EQ(outcome.status, 0);
   const QString words = QStringLiteral("case.robot: kept in ");
   ASSERT_TRUE(outcome.lines.first().startsWith(words)) << outcome.text().toStdString();
-  EXPECT_EQ(read(outcome.lines.first().mid(words.size()) + QStringLiteral("/Setup/mine.txt")), QStringLiteral("x"));
+  const QString kept = outcome.lines.first().mid(words.size());
+  EXPECT_EQ(read(kept + QStringLiteral("/Setup/mine.txt")), QStringLiteral("x"));
+  // Whoever works with it changes nothing elsewhere.
+  for (const char* file : {"/vermanto" EXECUTABLE_SUFFIX, "/help/eng/contents.html"}) {
+    EXPECT_EQ(std::filesystem::hard_link_count((kept + QLatin1String(file)).toStdString()), 1U) << file;
+  }
 }
 
 TEST_F(ARun, MakesTheNamedInstallationWhereThereIsNoneAndUsesItAsItStands) {

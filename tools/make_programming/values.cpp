@@ -17,7 +17,7 @@
 namespace ecr {
 namespace {
 
-using Bytes = std::span<std::uint8_t>;
+using Place = std::span<std::uint8_t>;
 using ConstBytes = std::span<const std::uint8_t>;
 
 enum class NumberForm {
@@ -64,7 +64,7 @@ std::string hex_pair(std::uint8_t byte) {
   return {hex_digits[static_cast<std::size_t>(byte >> 4)], hex_digits[byte & 15U]};
 }
 
-void set_raw(std::string_view written, Bytes bytes) {
+void set_raw(std::string_view written, Place bytes) {
   if (written.size() < 2 || written.back() != '>') throw ValueError{"the \">\" behind the bytes is missing"};
   std::vector<unsigned> digits;
   for (const char c : written.substr(1, written.size() - 2)) {
@@ -128,7 +128,7 @@ std::uint8_t register_code(char32_t character, std::string_view as_written) {
   return result;
 }
 
-void set_text(std::string_view written, Bytes bytes) {
+void set_text(std::string_view written, Place bytes) {
   if (written.size() < 2 || written.front() != '"' || written.back() != '"')
     throw ValueError{"a text in quotes is wanted"};
   const std::string_view text = written.substr(1, written.size() - 2);
@@ -190,7 +190,7 @@ Decimal sign_of_quantity(std::size_t bytes) {
   return Decimal{1}.scaled(static_cast<int>(2 * bytes) - 1);
 }
 
-void set_number(const FieldPlace& field, std::string_view written, Bytes bytes) {
+void set_number(const FieldPlace& field, std::string_view written, Place bytes) {
   const NumberFormat format = format_of(field);
   if (format.form == NumberForm::percent && written.ends_with('%')) {
     written = trim_end(written.substr(0, written.size() - 1));
@@ -283,7 +283,7 @@ FlagWord flag_word(const FieldPlace& field, std::string_view word) {
   throw ValueError{"the field has no flag \"" + std::string{word} + "\""};
 }
 
-void set_flags(const FieldPlace& field, std::string_view written, Bytes bytes) {
+void set_flags(const FieldPlace& field, std::string_view written, Place bytes) {
   std::fill(bytes.begin(), bytes.end(), std::uint8_t{0});
   if (written == "none") return;
   std::vector<bool> given(8 * bytes.size(), false);
@@ -330,7 +330,7 @@ std::string written_flags(const FieldPlace& field, ConstBytes bytes) {
 
 constexpr std::string_view key_field = "KeyLayout";
 
-void set_key(std::string_view written, Bytes bytes) {
+void set_key(std::string_view written, Place bytes) {
   if (written.size() < 2 || written.back() != '"') throw ValueError{"the quote behind the key's name is missing"};
   const std::optional<std::uint8_t> code = key_code(written.substr(1, written.size() - 2));
   if (!code) throw ValueError{"there is no key function " + std::string{written}};
@@ -344,7 +344,7 @@ bool is_number(std::string_view written) {
 
 }  // namespace
 
-void set_value(const FieldPlace& field, std::string_view written, Bytes bytes) {
+void set_value(const FieldPlace& field, std::string_view written, Place bytes) {
   if (written.empty()) throw ValueError{"a value is missing"};
   if (written.front() == '<') return set_raw(written, bytes);
   if (field.kind == FieldKind::text) return set_text(written, bytes);

@@ -22,7 +22,7 @@ namespace ecr {
 namespace {
 
 constexpr int clerks = 15;
-constexpr int name_width = 24;
+constexpr int clerk_name_width = 24;
 constexpr int password_digits = 3;
 
 // A bit that is set forbids.
@@ -34,7 +34,7 @@ constexpr Choice modes[] = {
 
 // Places count from the clerk's record; the rows stand in the order of their bits.
 constexpr std::size_t rights = offsetof(ClerkRecord, Rights);
-constexpr OptionRow rows[] = {
+constexpr OptionRow clerk_rights[] = {
     {.control = "Cmb_Void",
      .label = "L_Void",
      .key = Key::FRM_CLERK_SYSTEM_PROGRAM_L_VOID,
@@ -85,28 +85,30 @@ constexpr OptionRow rows[] = {
      .choices = modes,
      .place = bit_at(rights, 7)},
 };
-static_assert(sound(rows, sizeof(ClerkRecord)));
-static_assert(owned_bits(rows, rights) == 0xFF);
+static_assert(sound(clerk_rights, sizeof(ClerkRecord)));
+static_assert(owned_bits(clerk_rights, rights) == 0xFF);
 
 // Columns of the grid.
-enum Column {
-  number,
-  name,
-  password,
-  void_sale,
-  refund,
-  discount,
-  coupon,
-  extra_invoice,
-  paid_out,
-  negative,
-  mode,
-  columns
+struct ClerkColumn {
+  enum : int {
+    number,
+    name,
+    password,
+    void_sale,
+    refund,
+    discount,
+    coupon,
+    extra_invoice,
+    paid_out,
+    negative,
+    mode,
+    columns
+  };
 };
 // The columns that show a right, with its row above.
-constexpr std::pair<Column, std::size_t> right_columns[] = {{void_sale, 0},     {refund, 1},   {discount, 2},
-                                                            {coupon, 5},        {paid_out, 3}, {negative, 4},
-                                                            {extra_invoice, 6}, {mode, 7}};
+constexpr std::pair<int, std::size_t> right_columns[] = {
+    {ClerkColumn::void_sale, 0}, {ClerkColumn::refund, 1},   {ClerkColumn::discount, 2},      {ClerkColumn::coupon, 5},
+    {ClerkColumn::paid_out, 3},  {ClerkColumn::negative, 4}, {ClerkColumn::extra_invoice, 6}, {ClerkColumn::mode, 7}};
 
 std::size_t place_of(int clerk) {
   return offsetof(PrgModeImage, Clerk) + sizeof(ClerkRecord) * static_cast<std::size_t>(clerk - 1);
@@ -130,7 +132,7 @@ FrmClerkSystemProgram::FrmClerkSystemProgram()
       table_{*Cmb_ClerkNumber, clerks, *Fg_Clerk, [this](int clerk) { Carica_Clerk(clerk); }},
       E_Name{new Field{QStringLiteral("E_Name"), this}},
       E_Password{new Field{QStringLiteral("E_Password"), this}},
-      rights_{*this, frame_.captions, rows} {
+      rights_{*this, frame_.captions, clerk_rights} {
   lay_out();
   wire();
 }
@@ -179,7 +181,7 @@ void FrmClerkSystemProgram::lay_out() {
 }
 
 void FrmClerkSystemProgram::wire() {
-  make_name_field(*E_Name, name_width);
+  make_name_field(*E_Name, clerk_name_width);
   make_whole_number_field(*E_Password, 999);
   E_Password->on_left(
       [this] { E_Password->show_text((QStringLiteral("000") + E_Password->text()).right(password_digits)); });
@@ -193,7 +195,7 @@ void FrmClerkSystemProgram::load() {
     Fg_Clerk->setAccessibleName(windowTitle());
     carica_messaggi();
     Carica_Griglia();
-    Fg_Clerk->fit_columns(name);
+    Fg_Clerk->fit_columns(ClerkColumn::name);
     rights_.load();
     table_.go_to(1);
   });
@@ -201,8 +203,8 @@ void FrmClerkSystemProgram::load() {
 
 void FrmClerkSystemProgram::carica_messaggi() {
   RecordModel& cells = Fg_Clerk->cells();
-  cells.resize(clerks, columns);
-  cells.align_right({number, password});
+  cells.resize(clerks, ClerkColumn::columns);
+  cells.align_right({ClerkColumn::number, ClerkColumn::password});
   cells.set_headings({caption_text(Key::FRM_CLERK_SYSTEM_COL_TITOLO_MSG, "Clerk"),
                       caption_text(Key::FRM_CLERK_SYSTEM_COL_NAME_MSG, "Name"),
                       caption_text(Key::FRM_CLERK_SYSTEM_COL_PASSWORD_MSG, "Pdw"),
@@ -212,7 +214,7 @@ void FrmClerkSystemProgram::carica_messaggi() {
                       caption_text(Key::FRM_CLERK_SYSTEM_COL_COUPON_MSG, "Coupon"),
                       chosen_model().has_extra_invoice ? QStringLiteral("E.Invoice") : QString{},
                       QStringLiteral("Paid Out"), QStringLiteral("N. Dep&PLU"), QStringLiteral("Mode")});
-  Fg_Clerk->setColumnHidden(extra_invoice, !chosen_model().has_extra_invoice);
+  Fg_Clerk->setColumnHidden(ClerkColumn::extra_invoice, !chosen_model().has_extra_invoice);
 }
 
 void FrmClerkSystemProgram::Carica_Griglia() {
@@ -223,12 +225,12 @@ void FrmClerkSystemProgram::Carica_Griglia() {
     RecordModel& cells = Fg_Clerk->cells();
     for (int clerk = 1; clerk <= clerks; ++clerk) {
       const ClerkRecord& record = record_at(PrgMode.Clerk, clerk);
-      cells.set_cell(clerk, number, QString::number(clerk));
-      cells.set_cell(clerk, name, shown_name(record));
-      cells.set_cell(clerk, password, shown_password(record));
+      cells.set_cell(clerk, ClerkColumn::number, QString::number(clerk));
+      cells.set_cell(clerk, ClerkColumn::name, shown_name(record));
+      cells.set_cell(clerk, ClerkColumn::password, shown_password(record));
       for (const auto& [column, row] : right_columns) {
-        const QStringList& entries = column == mode ? mode_entries : permission_entries;
-        const int entry = byte_bit_tst(record.Rights, rows[row].place.bit) ? 1 : 0;
+        const QStringList& entries = column == ClerkColumn::mode ? mode_entries : permission_entries;
+        const int entry = byte_bit_tst(record.Rights, clerk_rights[row].place.bit) ? 1 : 0;
         cells.set_cell(clerk, column, label_of(entries[entry]));
       }
     }

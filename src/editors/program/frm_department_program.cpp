@@ -18,12 +18,14 @@ namespace ecr {
 namespace {
 
 constexpr int departments = 99;
-constexpr int name_width = 12;
+constexpr int department_name_width = 12;
 constexpr int group_ten_stored = 16;
 constexpr int group_ten = 10;
 
 // Columns of the grid.
-enum Column { number, name, status1, status2, group, tax, take_out_tax, limit, price, columns };
+struct DepartmentColumn {
+  enum : int { number, name, status1, status2, group, tax, take_out_tax, limit, price, columns };
+};
 
 int halo_of(const DeptRecord& record) {
   return record.Status1 >> 4;
@@ -44,7 +46,7 @@ QString shown_price(const DeptRecord& record) {
 }
 
 /// Sets a cell to the label of a choice; a value that no choice has leaves the cell as it stood.
-void set_label(RecordModel& cells, int row, Column column, const QStringList& choices, int value) {
+void set_label(RecordModel& cells, int row, int column, const QStringList& choices, int value) {
   if (value < choices.size()) cells.set_cell(row, column, label_of(choices[value]));
 }
 
@@ -116,7 +118,7 @@ void FrmDepartmentProgram::lay_out() {
 }
 
 void FrmDepartmentProgram::wire() {
-  make_name_field(*E_DeptName, name_width);
+  make_name_field(*E_DeptName, department_name_width);
   E_DeptName->on_change([this] {
     if (E_DeptName->text() != shown_name(record_shown())) mark_changed();
   });
@@ -151,7 +153,7 @@ void FrmDepartmentProgram::load() {
     Fg_Department->setAccessibleName(windowTitle());
     carica_messaggi();
     Carica_Griglia();
-    Fg_Department->fit_columns(name);
+    Fg_Department->fit_columns(DepartmentColumn::name);
     Cmb_Status1->fill(choices_.status1);
     Cmb_Status2->fill(choices_.status2);
     Cmb_Halo->fill(choices_.halo);
@@ -175,8 +177,8 @@ void FrmDepartmentProgram::carica_messaggi() {
                          crossed_choice(1, Key::FRM_ALL_NORMAL, Key::FRM_ALL_OPEN, "1. NORMAL"),
                          choice(2, Key::FRM_ALL_PRESET, "2. PRESET")};
   choices_.tax = tax_choices();
-  Fg_Department->cells().resize(departments, columns);
-  Fg_Department->cells().align_right({number, group, price});
+  Fg_Department->cells().resize(departments, DepartmentColumn::columns);
+  Fg_Department->cells().align_right({DepartmentColumn::number, DepartmentColumn::group, DepartmentColumn::price});
   Fg_Department->cells().set_headings(
       {caption_text(Key::FRM_DEPT_COL_DEPT_MSG, "Dept"), caption_text(Key::FRM_DEPT_COL_NAME_MSG, "Name"),
        caption_text(Key::FRM_DEPT_COL_STATUS1_MSG, "Status 1"), caption_text(Key::FRM_DEPT_COL_STATUS2_MSG, "Status 2"),
@@ -191,15 +193,15 @@ void FrmDepartmentProgram::Carica_Griglia() {
     RecordModel& cells = Fg_Department->cells();
     for (int row = 1; row <= departments; ++row) {
       const DeptRecord& record = PrgMode.Dept[static_cast<std::size_t>(row - 1)];
-      cells.set_cell(row, number, QString::number(row));
-      cells.set_cell(row, name, shown_name(record));
-      set_label(cells, row, status1, choices_.status1, byte_bit_tst(record.Status1, 0) ? 1 : 0);
-      set_label(cells, row, status2, choices_.status2, byte_bit_tst(record.Status1, 1) ? 1 : 0);
-      cells.set_cell(row, group, QString::number(shown_group(record)));
-      set_label(cells, row, tax, choices_.tax, record.Tax);
-      set_label(cells, row, take_out_tax, choices_.tax, record.TakeOutTax);
-      set_label(cells, row, limit, choices_.halo, halo_of(record));
-      cells.set_cell(row, price, shown_price(record));
+      cells.set_cell(row, DepartmentColumn::number, QString::number(row));
+      cells.set_cell(row, DepartmentColumn::name, shown_name(record));
+      set_label(cells, row, DepartmentColumn::status1, choices_.status1, byte_bit_tst(record.Status1, 0) ? 1 : 0);
+      set_label(cells, row, DepartmentColumn::status2, choices_.status2, byte_bit_tst(record.Status1, 1) ? 1 : 0);
+      cells.set_cell(row, DepartmentColumn::group, QString::number(shown_group(record)));
+      set_label(cells, row, DepartmentColumn::tax, choices_.tax, record.Tax);
+      set_label(cells, row, DepartmentColumn::take_out_tax, choices_.tax, record.TakeOutTax);
+      set_label(cells, row, DepartmentColumn::limit, choices_.halo, halo_of(record));
+      cells.set_cell(row, DepartmentColumn::price, shown_price(record));
     }
     cells.refreshed();
   });

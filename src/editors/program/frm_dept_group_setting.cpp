@@ -10,7 +10,7 @@ namespace ecr {
 namespace {
 
 constexpr int groups = 10;
-constexpr int name_width = 12;
+constexpr int group_name_width = 12;
 
 }  // namespace
 
@@ -32,7 +32,7 @@ FrmDeptGroupSetting::FrmDeptGroupSetting()
   frame_.body->addLayout(form.layout());
   frame_.body->addStretch(1);
 
-  make_name_field(*E_Name, name_width);
+  make_name_field(*E_Name, group_name_width);
   Cmb_DeptGroupNumber->on_click([this] { Carica_DeptGroup(Cmb_DeptGroupNumber->whole_number()); });
   frame_.log_prefixes("FrmDeptGroupSetting Form_Load: ", "FrmDeptGroupSetting Salva: ");
   frame_.on_save([this] { save(); });

@@ -15,7 +15,7 @@
 namespace ecr {
 namespace {
 
-constexpr int name_width = 10;
+constexpr int currency_name_width = 10;
 // As many as 999999 has; a point takes one more.
 constexpr int rate_digits = 6;
 constexpr std::int64_t largest_rate = 99999999;
@@ -79,7 +79,7 @@ QWidget* FrmFCRatingSetting::make_frame(std::size_t index) {
   form.layout()->setColumnStretch(1, 1);
   box->setLayout(form.layout());
 
-  make_name_field(*currency.E_Name, name_width);
+  make_name_field(*currency.E_Name, currency_name_width);
   Field& rate = *currency.E_ExchangeRate;
   rate.setAlignment(Qt::AlignRight);
   rate.let_in(Field::Keys::digits);

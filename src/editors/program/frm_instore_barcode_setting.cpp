@@ -14,16 +14,18 @@ namespace {
 constexpr int rules = 10;
 
 // Columns of the grid.
-enum Column {
-  number,
-  flag_code,
-  digits_of_flag,
-  digits_of_price,
-  number_of_fc,
-  code_length,
-  price_check,
-  news_paper,
-  columns
+struct BarcodeColumn {
+  enum : int {
+    number,
+    flag_code,
+    digits_of_flag,
+    digits_of_price,
+    number_of_fc,
+    code_length,
+    price_check,
+    news_paper,
+    columns
+  };
 };
 
 /// Which of two choices a byte stands for: 0 the first, everything else the second.
@@ -107,7 +109,7 @@ void FrmInstoreBarcodeSetting::load() {
     Cmb_PriceCheckDigit->fill(yes_no_);
     Cmb_NewsPaper->fill(yes_no_);
     Carica_Griglia();
-    FG_InstoreBarcode->fit_columns(news_paper);
+    FG_InstoreBarcode->fit_columns(BarcodeColumn::news_paper);
     table_.go_to(1);
   });
 }
@@ -117,8 +119,9 @@ void FrmInstoreBarcodeSetting::carica_messaggi() {
                    choice(1, Key::FRM_INSTORE_BARCODE_SETTING_CMB_CODE_LENGHT_1_MSG, "1. SHORT")};
   yes_no_ = {choice(0, Key::FRM_ALL_NO, "0. NO"), choice(1, Key::FRM_ALL_YES, "1. YES")};
   RecordModel& cells = FG_InstoreBarcode->cells();
-  cells.resize(rules, columns);
-  cells.align_right({number, flag_code, digits_of_flag, digits_of_price, number_of_fc});
+  cells.resize(rules, BarcodeColumn::columns);
+  cells.align_right({BarcodeColumn::number, BarcodeColumn::flag_code, BarcodeColumn::digits_of_flag,
+                     BarcodeColumn::digits_of_price, BarcodeColumn::number_of_fc});
   cells.set_headings({caption_text(Key::FRM_INSTORE_BARCODE_COL_N_MSG, "Inst.Bar N\xB0"),
                       caption_text(Key::FRM_INSTORE_BARCODE_COL_FLAG_CODE_MSG, "Flag Code"),
                       caption_text(Key::FRM_INSTORE_BARCODE_COL_DIGIT_OF_FLAG_MSG, "Digits in Flag"),
@@ -135,14 +138,14 @@ void FrmInstoreBarcodeSetting::Carica_Griglia() {
     RecordModel& cells = FG_InstoreBarcode->cells();
     for (int row = 1; row <= rules; ++row) {
       const InstoreBarcodeRecord& record = record_at(PrgMode.InstoreBarcode, row);
-      cells.set_cell(row, number, QString::number(row));
-      cells.set_cell(row, flag_code, shown_flag_code(record));
-      cells.set_cell(row, digits_of_flag, QString::number(record.DigitsOfFlag));
-      cells.set_cell(row, digits_of_price, QString::number(record.DigitsOfPrice));
-      cells.set_cell(row, number_of_fc, QString::number(record.NumberOfFc));
-      cells.set_cell(row, code_length, label_of(code_lengths_[second_unless_zero(record.CodeLenght)]));
-      cells.set_cell(row, price_check, label_of(yes_no_[second_unless_zero(record.PriceCheckDigit)]));
-      cells.set_cell(row, news_paper, label_of(yes_no_[second_unless_zero(record.NewsPaper)]));
+      cells.set_cell(row, BarcodeColumn::number, QString::number(row));
+      cells.set_cell(row, BarcodeColumn::flag_code, shown_flag_code(record));
+      cells.set_cell(row, BarcodeColumn::digits_of_flag, QString::number(record.DigitsOfFlag));
+      cells.set_cell(row, BarcodeColumn::digits_of_price, QString::number(record.DigitsOfPrice));
+      cells.set_cell(row, BarcodeColumn::number_of_fc, QString::number(record.NumberOfFc));
+      cells.set_cell(row, BarcodeColumn::code_length, label_of(code_lengths_[second_unless_zero(record.CodeLenght)]));
+      cells.set_cell(row, BarcodeColumn::price_check, label_of(yes_no_[second_unless_zero(record.PriceCheckDigit)]));
+      cells.set_cell(row, BarcodeColumn::news_paper, label_of(yes_no_[second_unless_zero(record.NewsPaper)]));
     }
     cells.refreshed();
   });

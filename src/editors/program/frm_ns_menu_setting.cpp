@@ -2,6 +2,7 @@
 
 #include <cstddef>
 
+#include "editors/program/shared_choices.h"
 #include "image/prg_mode.h"
 
 namespace ecr {
@@ -14,15 +15,13 @@ constexpr Choice drawer[] = {{.digit = 0, .literal = "0. OPEN", .text = Key::FRM
 constexpr Choice key_positions[] = {
     {.digit = 0, .literal = "0. REG & MGR", .text = Key::FRM_NS_MENU_SETTING_CMB_CONTROL_KEY_POSITIONING_0_MSG},
     {.digit = 1, .literal = "1. MGR ONLY", .text = Key::FRM_NS_MENU_SETTING_CMB_CONTROL_KEY_POSITIONING_1_MSG}};
-constexpr Choice printing[] = {{.digit = 0, .literal = "0. PRINT", .text = Key::FRM_ALL_PRINT},
-                               {.digit = 1, .literal = "1. NOT PRINT", .text = Key::FRM_ALL_NOTPRINT}};
 constexpr Choice input[] = {{.digit = 0, .literal = "0. INPUT", .text = Key::FRM_ALL_INPUT},
                             {.digit = 1, .literal = "1. NOT INPUT", .text = Key::FRM_ALL_NOINPUT}};
 constexpr Choice increments[] = {
     {.digit = 0, .literal = "0. UPDATE", .text = Key::FRM_NS_MENU_SETTING_CMB_CONSECUTIVE_INCREMENT_0_MSG},
     {.digit = 1, .literal = "1. NOT UPDATE", .text = Key::FRM_NS_MENU_SETTING_CMB_CONSECUTIVE_INCREMENT_1_MSG}};
 
-constexpr OptionRow rows[] = {
+constexpr OptionRow no_sale_rows[] = {
     {.control = "Cmb_DrawerOpen",
      .label = "L_DrawerOpen",
      .key = Key::FRM_NS_MENU_SETTING_L_DRAWER_OPEN,
@@ -60,7 +59,7 @@ constexpr OptionRow rows[] = {
      .choices = increments,
      .place = bit_at(no_sale, 5)},
 };
-static_assert(sound(rows, prg_mode_size));
+static_assert(sound(no_sale_rows, prg_mode_size));
 
 }  // namespace
 
@@ -70,7 +69,7 @@ const OptionScreenTable ns_menu_setting = {
     .title_caption = "Program #/NS Key",
     .heading = Key::FRM_NS_MENU_SETTING_L_TITOLO,
     .heading_caption = "PROGRAM #/NS KEY",
-    .rows = rows,
+    .rows = no_sale_rows,
     .load_prefix = "FrmNsMenuSetting form_load: ",
     .save_prefix = "FrmNsMenuSetting Salva: ",
 };

@@ -15,7 +15,7 @@ namespace {
 constexpr int scale_digits = 2;
 const QString unit = QStringLiteral(" %");
 
-constexpr std::size_t key_options = offsetof(PrgModeImage, KeyOpt4);
+constexpr std::size_t percentage_options = offsetof(PrgModeImage, KeyOpt4);
 
 // The entries stand crosswise: the built-in texts have the other digit than the place at which they stand, and the
 // catalogue's words for the two keys are turned against each other. Load goes by the place, save by the digit, so with
@@ -34,22 +34,23 @@ constexpr Choice signs_of_key2[] = {{.digit = 0,
                                      .decides = Key::FRM_ALL_DISCOUNT,
                                      .prefix = Prefix::point}};
 
-constexpr OptionRow rows[] = {
+constexpr OptionRow percentage_signs[] = {
     {.control = "Cmb_P1Sign",
      .label = "L_P1Sign",
      .key = Key::FRM_PERCENTAGE_MENU_L_P1_SIGN,
      .caption = "Key %1 Function:",
      .choices = signs_of_key1,
-     .place = bit_at(key_options, 0)},
+     .place = bit_at(percentage_options, 0)},
     {.control = "Cmb_P2Sign",
      .label = "L_P2Sign",
      .key = Key::FRM_PERCENTAGE_MENU_L_P2_SIGN,
      .caption = "Key %2 Function:",
      .choices = signs_of_key2,
-     .place = bit_at(key_options, 1)},
+     .place = bit_at(percentage_options, 1)},
 };
-static_assert(sound(rows, prg_mode_size));
-static_assert(owned_bits(rows, key_options) == 0x03, "bits 2 to 5 belong to the PO, RA and plus-minus keys");
+static_assert(sound(percentage_signs, prg_mode_size));
+static_assert(owned_bits(percentage_signs, percentage_options) == 0x03,
+              "bits 2 to 5 belong to the PO, RA and plus-minus keys");
 
 /// The number in front of the unit, in hundredths of a percent.
 Decimal stored_rate(const QString& shown) {
@@ -78,7 +79,7 @@ FrmPercentageMenu::FrmPercentageMenu()
       E_P1KeyRateLimit{new Field{QStringLiteral("E_P1KeyRateLimit"), this}},
       E_P2KeyRate{new Field{QStringLiteral("E_P2KeyRate"), this}},
       E_P2KeyRateLimit{new Field{QStringLiteral("E_P2KeyRateLimit"), this}},
-      signs_{*this, frame_.captions, rows} {
+      signs_{*this, frame_.captions, percentage_signs} {
   frame_.captions.add(*this, Key::FRM_PERCENTAGE_MENU_TITLE, "Program % Key");
   frame_.captions.add(*frame_.top.L_Titolo, Key::FRM_PERCENTAGE_MENU_L_TITOLO, "PROGRAM % KEY");
   FormGrid form{*this, frame_.captions};

@@ -8,15 +8,13 @@
 namespace ecr {
 namespace {
 
-constexpr std::size_t key_options = offsetof(PrgModeImage, KeyOpt4);
+constexpr std::size_t poramp_options = offsetof(PrgModeImage, KeyOpt4);
 
 // A discount is number 0 here and 1 where the percentage keys have their built-in texts.
 constexpr Choice signs[] = {{.digit = 0, .literal = "0. DISCOUNT", .text = Key::FRM_ALL_DISCOUNT},
                             {.digit = 1, .literal = "1. ADD ON", .text = Key::FRM_ALL_ADDON}};
-constexpr Choice printing[] = {{.digit = 0, .literal = "0. PRINT", .text = Key::FRM_ALL_PRINT},
-                               {.digit = 1, .literal = "1. NOT PRINT", .text = Key::FRM_ALL_NOTPRINT}};
 
-constexpr OptionRow rows[] = {
+constexpr OptionRow poramp_rows[] = {
     {.control = "Cmb_RAKeyHDLOSetting",
      .label = "L_RAKeyHDLOSetting",
      .key = Key::FRM_PO_RA_MP_KEY_MENU_L_RA_KEY_HDLO_SETTING,
@@ -46,28 +44,28 @@ constexpr OptionRow rows[] = {
      .key = Key::FRM_PO_RA_MP_KEY_MENU_L_PM1_SIGN,
      .caption = "+/-1 Sign",
      .choices = signs,
-     .place = bit_at(key_options, 2)},
+     .place = bit_at(poramp_options, 2)},
     {.control = "Cmb_PM2Sign",
      .label = "L_PM2Sign",
      .key = Key::FRM_PO_RA_MP_KEY_MENU_L_PM2_SIGN,
      .caption = "+/-2 Sign",
      .choices = signs,
-     .place = bit_at(key_options, 3)},
+     .place = bit_at(poramp_options, 3)},
     {.control = "Cmb_RAHeaderPrint",
      .label = "L_RAHeaderPrint",
      .key = Key::FRM_PO_RA_MP_KEY_MENU_L_RA_HEADER_PRINT,
      .caption = "RA Header Print",
      .choices = printing,
-     .place = bit_at(key_options, 4)},
+     .place = bit_at(poramp_options, 4)},
     {.control = "Cmb_POHeaderPrint",
      .label = "L_POHeaderPrint",
      .key = Key::FRM_PO_RA_MP_KEY_MENU_L_PO_HEADER_PRINT,
      .caption = "PO Header Print",
      .choices = printing,
-     .place = bit_at(key_options, 5)},
+     .place = bit_at(poramp_options, 5)},
 };
-static_assert(sound(rows, prg_mode_size));
-static_assert(owned_bits(rows, key_options) == 0x3C, "bits 0 and 1 belong to the percentage keys");
+static_assert(sound(poramp_rows, prg_mode_size));
+static_assert(owned_bits(poramp_rows, poramp_options) == 0x3C, "bits 0 and 1 belong to the percentage keys");
 
 }  // namespace
 
@@ -77,7 +75,7 @@ const OptionScreenTable poramp_key_menu = {
     .title_caption = "Program PO, RA and -/+ Keys",
     .heading = Key::FRM_PO_RA_MP_KEY_MENU_L_TITOLO,
     .heading_caption = "PROGRAM PO, RA AND -/+ KEYS",
-    .rows = rows,
+    .rows = poramp_rows,
     .load_prefix = "FrmPORAMPKeyMenu form_load: ",
     .save_prefix = "FrmPORAMPKeyMenu Salva: ",
 };

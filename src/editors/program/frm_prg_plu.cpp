@@ -15,7 +15,7 @@ namespace ecr {
 namespace {
 
 constexpr int code_width = 13;
-constexpr int name_width = 16;
+constexpr int item_name_width = 16;
 
 /// Bare numbers, from the first to the last.
 QStringList numbers(int first, int last) {
@@ -140,11 +140,11 @@ void FrmPrgPlu::wire_fields() {
     if (!text.isEmpty() && text != shown_code(record_shown())) mark_changed();
   });
 
-  make_name_field(*E_Name, name_width);
+  make_name_field(*E_Name, item_name_width);
   E_Name->on_change([this] {
     if (trimmed(E_Name->text()) != trimmed(shown_name(record_shown()))) mark_changed();
   });
-  E_Name->on_left([this] { E_Name->show_text(E_Name->text().leftJustified(name_width)); });
+  E_Name->on_left([this] { E_Name->show_text(E_Name->text().leftJustified(item_name_width)); });
 
   const auto wire_price = [this](Field* field, Bcd<4> PluRecord::*price) {
     NumberRules rules = amount_rules(Decimal{9'999'999});

@@ -33,7 +33,7 @@ constexpr Choice port_uses[] = {{.digit = 1, .literal = "1. PC", .text = Key::FR
                                 {.digit = 3, .literal = "3. EFT", .text = Key::FRM_SYSTEM_OPTION_COM_PORT_3_MSG}};
 
 constexpr std::size_t ports = offsetof(PrgModeImage, SysOpt2);
-constexpr OptionRow rows[] = {
+constexpr OptionRow port_rows[] = {
     {.control = "Cmb_DecimalPosition",
      .label = "L_DecimalPosition",
      .key = Key::FRM_SYSTEM_OPTION_L_DECIMAL_POSITION,
@@ -59,8 +59,8 @@ constexpr OptionRow rows[] = {
      .choices = port_uses,
      .place = byte_at(ports + 1)},
 };
-static_assert(sound(rows, prg_mode_size));
-static_assert(owned_bits(rows, ports + 2) == 0, "the third byte is nobody's");
+static_assert(sound(port_rows, prg_mode_size));
+static_assert(owned_bits(port_rows, ports + 2) == 0, "the third byte is nobody's");
 
 /// What becomes of a text that is no number when its field is left.
 enum class Leaving {
@@ -140,7 +140,7 @@ void counter_left(Field& field, const CounterRow& row) {
 FrmSystemOption::FrmSystemOption()
     : Screen{QStringLiteral("FrmSystemOption")},
       frame_{*this, ScreenFrame::Corner::picture},
-      lists_{*this, frame_.captions, rows} {
+      lists_{*this, frame_.captions, port_rows} {
   frame_.captions.add(*this, Key::FRM_SYSTEM_OPTION_TITLE, "System Options");
   frame_.captions.add(*frame_.top.L_Titolo, Key::FRM_SYSTEM_OPTION_L_TITOLO, "SYSTEM OPTIONS");
   auto* values = make_lists(QStringLiteral("F_ValueDescription"), 0);

@@ -18,7 +18,7 @@ namespace {
 
 constexpr int media = 9;
 constexpr int media_in_frames = 3;
-constexpr int name_width = 12;
+constexpr int tender_name_width = 12;
 
 struct MediumCaption {
   Key key;
@@ -43,7 +43,7 @@ constexpr Choice drawers[] = {{.digit = 0, .literal = "0. OPEN", .text = Key::FR
 
 // Places count from the medium's record.
 constexpr std::size_t options = offsetof(TenderRecord, Options);
-constexpr OptionRow rows[] = {
+constexpr OptionRow tender_rows[] = {
     {.control = "Cmb_Halo",
      .label = "L_Hdlo",
      .key = Key::FRM_TENDER_MENU_SETTING_L_HDLO,
@@ -69,8 +69,8 @@ constexpr OptionRow rows[] = {
      .choices = drawers,
      .place = bit_at(options, 2)},
 };
-static_assert(sound(rows, sizeof(TenderRecord)));
-static_assert(owned_bits(rows, options) == 0x07, "the upper bits are nobody's");
+static_assert(sound(tender_rows, sizeof(TenderRecord)));
+static_assert(owned_bits(tender_rows, options) == 0x07, "the upper bits are nobody's");
 
 // The widths of a strip, so that the controls of all media stand in line.
 constexpr int strip_stretches[] = {5, 6, 7, 4, 4};
@@ -81,9 +81,9 @@ std::size_t record_of(int medium) {
 
 /// What a name keeps of a longer text. The field itself has no limit.
 void cut_name(Field& field) {
-  if (field.text().size() <= name_width) return;
+  if (field.text().size() <= tender_name_width) return;
   const int cursor = field.cursorPosition();
-  field.show_text(field.text().left(name_width));
+  field.show_text(field.text().left(tender_name_width));
   field.setCursorPosition(cursor);
 }
 
@@ -135,7 +135,7 @@ void FrmTenderMenuSetting::make_medium(int index) {
     name->selectAll();
   });
   name->on_change([name] { cut_name(*name); });
-  media_.push_back({label, name, OptionLists{*place, frame_.captions, rows, index, record_of(index)}});
+  media_.push_back({label, name, OptionLists{*place, frame_.captions, tender_rows, index, record_of(index)}});
   place->setLayout(strip(media_.back()));
 }
 
@@ -147,7 +147,7 @@ QLayout* FrmTenderMenuSetting::strip(const Medium& medium) const {
   grid->addWidget(medium.E_Name, 1, 0);
   grid->setColumnStretch(0, strip_stretches[0]);
   int column = 1;
-  for (const OptionRow& row : rows) {
+  for (const OptionRow& row : tender_rows) {
     grid->addWidget(medium.lists.label(row.control), 0, column);
     grid->addWidget(medium.lists.list(row.control), 1, column);
     grid->setColumnStretch(column, strip_stretches[column]);

@@ -193,7 +193,7 @@ void wait(Session& session, const Arguments& arguments) {
   QThread::msleep(static_cast<unsigned long>(end.remainingTime()));
 }
 
-constexpr auto commands = std::to_array<Command>({
+constexpr auto acting_table = std::to_array<Command>({
     {"click", "CONTROL", Trying::once, click},
     {"doubleclick", "CONTROL", Trying::once, double_click},
     {"focus", "CONTROL", Trying::once, focus},
@@ -215,7 +215,7 @@ constexpr auto commands = std::to_array<Command>({
 }  // namespace
 
 std::span<const Command> acting_commands() {
-  return commands;
+  return acting_table;
 }
 
 }  // namespace ecr::robot

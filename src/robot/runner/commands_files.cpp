@@ -166,7 +166,7 @@ void truncate(Session& session, const Arguments& arguments) {
   write_bytes(path, file);
 }
 
-constexpr auto commands = std::to_array<Command>({
+constexpr auto file_table = std::to_array<Command>({
     {"expect-file", "PATH exists|missing|folder / PATH size N", Trying::again, expect_file},
     {"expect-bytes", "PATH OFFSET HEX", Trying::again, expect_bytes},
     {"expect-same", "PATH PATH", Trying::again, expect_same},
@@ -186,7 +186,7 @@ constexpr auto commands = std::to_array<Command>({
 }  // namespace
 
 std::span<const Command> file_commands() {
-  return commands;
+  return file_table;
 }
 
 }  // namespace ecr::robot

@@ -125,7 +125,7 @@ void hang(Session& session, const Arguments& arguments) {
   session.emulated.set("hang", arguments.has(0) ? QByteArray::number(arguments.number(0)) : QByteArray{"next"});
 }
 
-constexpr auto commands = std::to_array<Command>({
+constexpr auto register_table = std::to_array<Command>({
     {"register on", "[PORT]", Trying::once, on},
     {"register off", "", Trying::once, off},
     {"register ports", "N...", Trying::once, ports},
@@ -146,7 +146,7 @@ constexpr auto commands = std::to_array<Command>({
 }  // namespace
 
 std::span<const Command> register_commands() {
-  return commands;
+  return register_table;
 }
 
 }  // namespace ecr::robot

@@ -169,7 +169,7 @@ void picture(Session& session, const Arguments& arguments) {
       session.ask(QStringLiteral("picture"), {{QStringLiteral("path"), session.installation.path(arguments.text(0))}}));
 }
 
-constexpr auto commands = std::to_array<Command>({
+constexpr auto screen_table = std::to_array<Command>({
     {"screen", "CONTROL", Trying::again, screen},
     {"nobox", "", Trying::again, nobox},
     {"expect", "CONTROL TEXT", Trying::again, expect},
@@ -194,7 +194,7 @@ constexpr auto commands = std::to_array<Command>({
 }  // namespace
 
 std::span<const Command> screen_commands() {
-  return commands;
+  return screen_table;
 }
 
 }  // namespace ecr::robot

@@ -47,7 +47,7 @@ void restart(Session& session, const Arguments& arguments) {
   session.start_program(word_of(arguments));
 }
 
-constexpr auto commands = std::to_array<Command>({
+constexpr auto starting_table = std::to_array<Command>({
     {"include", "SCRIPT", Trying::once, nullptr},
     {"start", "[WORD]", Trying::once, start},
     {"expect-ended", "", Trying::again, expect_ended},
@@ -57,7 +57,7 @@ constexpr auto commands = std::to_array<Command>({
 }  // namespace
 
 std::span<const Command> starting_commands() {
-  return commands;
+  return starting_table;
 }
 
 }  // namespace ecr::robot

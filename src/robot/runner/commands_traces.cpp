@@ -51,14 +51,14 @@ void expect_process(Session& session, const Arguments& arguments) {
               runs ? QStringLiteral("it runs") : QStringLiteral("none runs")};
 }
 
-QString listed(const QStringList& calls) {
+QString listed_calls(const QStringList& calls) {
   return calls.isEmpty() ? QString{} : QStringLiteral(": ") + calls.join(QLatin1String("; "));
 }
 
 void expect_calls(Session& session, const Arguments& arguments) {
   const QStringList calls = session.calls.new_calls();
   if (calls.size() != arguments.number(0)) {
-    throw Unmet{QStringLiteral("%1 calls").arg(arguments.text(0)), QString::number(calls.size()) + listed(calls)};
+    throw Unmet{QStringLiteral("%1 calls").arg(arguments.text(0)), QString::number(calls.size()) + listed_calls(calls)};
   }
   session.calls.take(calls);
 }
@@ -72,13 +72,13 @@ void expect_call(Session& session, const Arguments& arguments) {
   const qsizetype number = arguments.number(0);
   const QString wish = QStringLiteral("call %1 %2").arg(number).arg(quoted(arguments.text(1)));
   if (number < 1 || number > calls.size()) {
-    throw Unmet{wish, QStringLiteral("%1 calls were counted").arg(calls.size()) + listed(calls), true};
+    throw Unmet{wish, QStringLiteral("%1 calls were counted").arg(calls.size()) + listed_calls(calls), true};
   }
   const QString& found = calls[number - 1];
   if (found != arguments.text(1)) throw Unmet{wish, quoted(found), true};
 }
 
-constexpr auto commands = std::to_array<Command>({
+constexpr auto trace_table = std::to_array<Command>({
     {"expect-log", "TEXT", Trying::again, expect_log},
     {"expect-log-like", "TEXT", Trying::again, expect_log_like},
     {"expect-no-log", "TEXT", Trying::once, expect_no_log},
@@ -92,7 +92,7 @@ constexpr auto commands = std::to_array<Command>({
 }  // namespace
 
 std::span<const Command> trace_commands() {
-  return commands;
+  return trace_table;
 }
 
 }  // namespace ecr::robot

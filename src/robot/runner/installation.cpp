@@ -40,10 +40,42 @@ bool is_machine_code(const QString& path) {
          head.startsWith("MZ");
 }
 
-bool linked(const QString& from, const QString& to) {
-  std::error_code error;
-  std::filesystem::create_hard_link(host_path(from), host_path(to), error);
-  return !error;
+/// The same of the manual's pages and pictures: the program reads them alone, and what a script does to them, or to any
+/// other file, is a new file in the place of the old one.
+bool is_manual(const QString& folder_entry) {
+  return folder_entry == QLatin1String("help");
+}
+
+/// A copy of a file or of a folder with all in it; of a file that may `share` its content another name for it, where the
+/// file system has such.
+void lay_out(const std::filesystem::path& from, const std::filesystem::path& to, bool share) {
+  namespace fs = std::filesystem;
+  if (fs::is_directory(from)) {
+    fs::create_directory(to);
+    for (const fs::directory_entry& entry : fs::directory_iterator{from}) {
+      lay_out(entry.path(), to / entry.path().filename(), share);
+    }
+    return;
+  }
+  if (share && !fs::is_symlink(from)) {
+    std::error_code not_here;
+    fs::create_hard_link(from, to, not_here);
+    if (!not_here) return;
+  }
+  fs::copy_file(from, to);
+  fs::permissions(to, fs::perms::owner_write, fs::perm_options::add);
+}
+
+/// Gives every file that shares its content a content of its own.
+void part_from_others(const std::filesystem::path& folder) {
+  namespace fs = std::filesystem;
+  for (const fs::directory_entry& entry : fs::recursive_directory_iterator{folder}) {
+    if (!entry.is_regular_file() || entry.hard_link_count() == 1) continue;
+    fs::path own = entry.path();
+    own += ".own";
+    fs::copy_file(entry.path(), own);
+    fs::rename(own, entry.path());
+  }
 }
 
 /// Copies the installation. What is put where somebody may use it for long shares nothing with the untouched one.
@@ -56,9 +88,13 @@ void copy_installation(const QString& to, bool for_long) {
   QDir{}.mkpath(to);
   const auto all = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
   for (const QFileInfo& entry : from.entryInfoList(all)) {
-    const QString target = to + QLatin1Char('/') + entry.fileName();
-    const bool may_link = !for_long && entry.isFile() && is_machine_code(entry.filePath());
-    if (!may_link || !linked(entry.canonicalFilePath(), target)) copy_all(entry.filePath(), target);
+    const bool share = !for_long && (entry.isDir() ? is_manual(entry.fileName()) : is_machine_code(entry.filePath()));
+    try {
+      lay_out(host_path(entry.filePath()), host_path(to + QLatin1Char('/') + entry.fileName()), share);
+    } catch (const std::filesystem::filesystem_error& error) {
+      throw ScriptFault{QStringLiteral("a copy of %1").arg(entry.filePath()),
+                        QString::fromStdString(error.code().message())};
+    }
   }
   // A machine's own serial ports are no part of a script.
   const QString devices = to + QStringLiteral("/register/devices.txt");
@@ -185,6 +221,7 @@ void Installation::end_processes() const {
 std::optional<QString> Installation::keep() {
   if (below(folder_, QFileInfo{temporary_.path()}.canonicalFilePath()).has_value()) {
     temporary_.setAutoRemove(false);
+    part_from_others(host_path(folder_));
     return folder_;
   }
   return std::nullopt;

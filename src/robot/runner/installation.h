@@ -48,7 +48,8 @@ class Installation {
   /// Ends the processes from here that did not run before.
   void end_processes() const;
 
-  /// Leaves the temporary copy where it is. Answers where that is, nothing if it is not temporary.
+  /// Leaves the temporary copy where it is, as a whole installation that shares nothing with the untouched one. Answers
+  /// where that is, nothing if it is not temporary.
   std::optional<QString> keep();
 
  private:

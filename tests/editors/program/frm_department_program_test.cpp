@@ -15,7 +15,7 @@
 #include "core/text.h"
 #include "support_qt/screen_test.h"
 
-namespace ecr::test {
+namespace ecr::test::department_program_cases {
 namespace {
 
 using Lines = std::vector<std::string>;
@@ -497,6 +497,20 @@ TEST_F(FrmDepartmentProgramTest, APriceAboveTheMaximumFromElsewhereIsCutWhenItIs
   EXPECT_EQ(field("E_Price").text(), QStringLiteral("9999999"));
 }
 
+TEST_F(FrmDepartmentProgramTest, APastedPriceIsCutUntilItFits) {
+  open_editor();
+  click("E_Price");
+  expect_refusals(2);
+  paste_over(QStringLiteral("123456789"));
+  EXPECT_EQ(field("E_Price").text(), QStringLiteral("1234567"));
+}
+
+TEST_F(FrmDepartmentProgramTest, LettersInThePriceAreDropped) {
+  open_editor();
+  enter("E_Price", QStringLiteral("1.5,0 x"));
+  EXPECT_EQ(field("E_Price").text(), QStringLiteral("150"));
+}
+
 // The group.
 
 TEST_F(FrmDepartmentProgramTest, AGroupOfZeroEmptiesTheFieldOnEntryAndAnotherOneStays) {
@@ -602,6 +616,22 @@ TEST_F(FrmDepartmentProgramTest, TheNameTakesTwelveCharacters) {
   enter("E_DeptName", QStringLiteral("ABCDEFGHIJKLMNOP"));
   save();
   EXPECT_EQ(record(1).substr(0, 12), "ABCDEFGHIJKL");
+  click("E_DeptName");
+  paste_over(QStringLiteral("A name that is far too long"));
+  save();
+  EXPECT_EQ(record(2).substr(0, 12), "A name that ");
+}
+
+TEST_F(FrmDepartmentProgramTest, BlanksInFrontOfTheNameStayAndAnEmptyNameIsTwelveBlanks) {
+  open_editor();
+  enter("E_DeptName", QStringLiteral("  Tea"));
+  save();
+  EXPECT_EQ(record(1).substr(0, 12), "  Tea       ");
+  click("E_DeptName");
+  press(Qt::Key_Backspace);
+  save();
+  EXPECT_EQ(record(2).substr(0, 12), std::string(12, ' '));
+  EXPECT_EQ(cell(2, 1), QString(12, u' '));
 }
 
 TEST_F(FrmDepartmentProgramTest, EnteringTheNameSelectsItWithoutItsBlanks) {
@@ -670,6 +700,13 @@ TEST_F(FrmDepartmentProgramTest, ADifferentNameMarksTheRecord) {
   EXPECT_TRUE(marks([this] { enter("E_DeptName", QStringLiteral("ROLLS")); }));
 }
 
+TEST_F(FrmDepartmentProgramTest, EnteringANameMarksTheRecordUnlessItFillsItsField) {
+  in_memory(1).Name.set("TWELVE CHARS");
+  EXPECT_FALSE(marks([this] { click("E_DeptName"); }));
+  in_memory(1).Name.set("ELEVEN CHAR");
+  EXPECT_TRUE(marks([this] { click("E_DeptName"); })) << "its blanks are gone";
+}
+
 TEST_F(FrmDepartmentProgramTest, EnteringAPriceMarksTheRecordAlready) {
   EXPECT_TRUE(marks([this] {
     click("E_Price");
@@ -682,7 +719,9 @@ TEST_F(FrmDepartmentProgramTest, EnteringAZeroPriceDoesNotMarkTheRecord) {
   in_memory(1).Price = {};
   EXPECT_FALSE(marks([this] {
     click("E_Price");
+    EXPECT_EQ(field("E_Price").text(), QString{});
     click("E_DeptGroupNumber");
+    EXPECT_EQ(field("E_Price").text(), QStringLiteral("0"));
   }));
 }
 
@@ -1057,4 +1096,4 @@ TEST_F(FrmDepartmentProgramTest, ANameOfAnyBytesKeepsItsLength) {
 }
 
 }  // namespace
-}  // namespace ecr::test
+}  // namespace ecr::test::department_program_cases

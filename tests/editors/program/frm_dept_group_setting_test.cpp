@@ -2,7 +2,7 @@
 
 #include "editors/program/editor_test.h"
 
-namespace ecr::test {
+namespace ecr::test::dept_group_setting_cases {
 namespace {
 
 constexpr std::size_t first_at = 3137;
@@ -122,4 +122,4 @@ TEST_F(FrmDeptGroupSettingTest, SendSendsWhatWasSavedLast) {
 }
 
 }  // namespace
-}  // namespace ecr::test
+}  // namespace ecr::test::dept_group_setting_cases

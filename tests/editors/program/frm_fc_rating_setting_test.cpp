@@ -2,7 +2,7 @@
 
 #include "editors/program/editor_test.h"
 
-namespace ecr::test {
+namespace ecr::test::fc_rating_setting_cases {
 namespace {
 
 constexpr std::size_t first_at = 2927;
@@ -353,4 +353,4 @@ TEST_F(FrmFCRatingSettingTest, SendSendsWhatWasSavedLast) {
 }
 
 }  // namespace
-}  // namespace ecr::test
+}  // namespace ecr::test::fc_rating_setting_cases

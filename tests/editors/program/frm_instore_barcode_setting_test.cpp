@@ -4,7 +4,7 @@
 
 #include "editors/program/editor_test.h"
 
-namespace ecr::test {
+namespace ecr::test::instore_barcode_setting_cases {
 namespace {
 
 constexpr std::size_t first_at = 94;
@@ -270,4 +270,4 @@ TEST_F(FrmInstoreBarcodeSettingTest, SendSendsWhatWasSavedLast) {
 }
 
 }  // namespace
-}  // namespace ecr::test
+}  // namespace ecr::test::instore_barcode_setting_cases

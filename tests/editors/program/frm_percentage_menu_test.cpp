@@ -3,7 +3,7 @@
 #include "editors/option_screen_test.h"
 #include "editors/program/editor_test.h"
 
-namespace ecr::test {
+namespace ecr::test::percentage_menu_cases {
 namespace {
 
 constexpr std::size_t rates_at = 54;
@@ -220,4 +220,4 @@ TEST_F(FrmPercentageMenuTest, SendSendsWhatWasSavedLast) {
 }
 
 }  // namespace
-}  // namespace ecr::test
+}  // namespace ecr::test::percentage_menu_cases

@@ -6,7 +6,7 @@
 #include "core/global.h"
 #include "editors/option_screen_test.h"
 
-namespace ecr::test {
+namespace ecr::test::poramp_key_menu_cases {
 namespace {
 
 const QString screen = QStringLiteral("FrmPORAMPKeyMenu");
@@ -109,4 +109,4 @@ TEST_F(FrmPORAMPKeyMenuTest, FaultsWouldStandInTheLogBehindThesePrefixes) {
 }
 
 }  // namespace
-}  // namespace ecr::test
+}  // namespace ecr::test::poramp_key_menu_cases

@@ -108,6 +108,8 @@ TEST_F(FrmSetVatRateTest, EnteringARateOfZeroEmptiesTheField) {
   open_editor();
   click(rate(2));
   EXPECT_EQ(rate(2).text(), QString{});
+  click(rate(1));
+  EXPECT_EQ(rate(2).text(), QStringLiteral("0 %"));
 }
 
 TEST_F(FrmSetVatRateTest, LeavingShowsThePlainDecimalFormNotThreeDecimals) {
@@ -186,6 +188,43 @@ TEST_F(FrmSetVatRateTest, LettersAreDropped) {
   open_editor();
   enter(1, QStringLiteral("2a2.0,0-0"));
   EXPECT_EQ(rate(1).text(), QStringLiteral("22000"));
+  enter(1, QStringLiteral("7.5 %,-+aZ"));
+  EXPECT_EQ(rate(1).text(), QStringLiteral("75"));
+}
+
+TEST_F(FrmSetVatRateTest, APastedRateIsTakenAsItIsUnlessADroppedLetterWentBefore) {
+  open_editor();
+  click(rate(1));
+  paste_over(QStringLiteral("1234567"));
+  EXPECT_EQ(rate(1).text(), QStringLiteral("1234567"));
+  type(QStringLiteral("x"));
+  expect_refusal();
+  paste_over(QStringLiteral("123456"));
+  EXPECT_EQ(rate(1).text(), QStringLiteral("12345"));
+  paste_over(QStringLiteral("654321"));
+  EXPECT_EQ(rate(1).text(), QStringLiteral("654321"));
+  save();
+  EXPECT_EQ(rate(1).text(), QStringLiteral("654.321 %"));
+  EXPECT_EQ(stored(1), four({0x21, 0x43, 0x65, 0x00}));
+}
+
+TEST_F(FrmSetVatRateTest, LeadingZerosDoNotCountTowardsTheMaximum) {
+  open_editor();
+  enter(1, QStringLiteral("00000750"));
+  EXPECT_EQ(rate(1).text(), QStringLiteral("00000750"));
+  save();
+  EXPECT_EQ(rate(1).text(), QStringLiteral("0.75 %"));
+  EXPECT_EQ(stored(1), four({0x50, 0x07, 0x00, 0x00}));
+}
+
+TEST_F(FrmSetVatRateTest, ADigitTypedInFrontPushesTheLastOneOut) {
+  open_editor();
+  click(rate(1));
+  press(Qt::Key_Home);
+  expect_refusal();
+  type(QStringLiteral("9"));
+  EXPECT_EQ(rate(1).text(), QStringLiteral("92200"));
+  EXPECT_EQ(rate(1).cursorPosition(), 1);
 }
 
 TEST_F(FrmSetVatRateTest, EnterGoesToSaveAndASecondOneSaves) {

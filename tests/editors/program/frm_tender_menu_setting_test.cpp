@@ -5,7 +5,7 @@
 #include "editors/option_screen_test.h"
 #include "editors/program/editor_test.h"
 
-namespace ecr::test {
+namespace ecr::test::tender_menu_setting_cases {
 namespace {
 
 constexpr std::size_t first_at = 2991;
@@ -191,4 +191,4 @@ TEST_F(FrmTenderMenuSettingTest, SendSendsWhatWasSavedLast) {
 }
 
 }  // namespace
-}  // namespace ecr::test
+}  // namespace ecr::test::tender_menu_setting_cases

@@ -74,7 +74,7 @@ void fields(QWidget* page, QGridLayout* grid) {
   grid->addWidget(named(new QTextEdit{QStringLiteral("rich"), page}, "E_Rich"), 3, 1);
 }
 
-void boxes(QWidget* page, QGridLayout* grid) {
+void check_boxes(QWidget* page, QGridLayout* grid) {
   // Far wider than box and caption are.
   auto* option = named(new QCheckBox{QStringLiteral("&Option"), page}, "Chk_Option");
   grid->addWidget(option, 4, 0, 1, 3);
@@ -118,7 +118,7 @@ void build_fields_page(QWidget* page, Window* window) {
   auto* grid = new QGridLayout{page};
   captions(page, grid);
   fields(page, grid);
-  boxes(page, grid);
+  check_boxes(page, grid);
   unusable(page, grid);
   grid->addWidget(button(page, "C_Back", "Back", [=] { window->show_page(window->start); }), 7, 0);
 }

@@ -1,5 +1,6 @@
-# Runs one target from its seeds for a while: cmake -D TARGET= -D CORPUS= -D WORDS= -D LENGTH= -D FOUND= -P smoke.cmake
-# An input that breaks it is kept in FOUND; nothing else is left behind.
+# Runs one target from its seeds for a while: cmake -D TARGET= -D CORPUS= -D WORDS= -D LENGTH= -D FOUND= -P search.cmake
+# The environment variable VERMANTO_FUZZ_SECONDS says for how long; ten seconds from a fixed seed if it does not. An input
+# that breaks the target is kept in FOUND; nothing else is left behind.
 
 string(RANDOM LENGTH 16 name)
 set(place $ENV{TMPDIR})
@@ -9,8 +10,15 @@ if(NOT place)
     set(place /dev/shm)
   endif()
 endif()
-set(work ${place}/vermanto-smoke-${name})
+set(work ${place}/vermanto-fuzz-${name})
 file(MAKE_DIRECTORY ${work}/inputs)
+
+set(seconds $ENV{VERMANTO_FUZZ_SECONDS})
+if(seconds)
+  set(range -max_total_time=${seconds})
+else()
+  set(range -seed=1 -runs=20000 -max_total_time=10)
+endif()
 
 set(words "")
 if(WORDS)
@@ -20,7 +28,7 @@ file(MAKE_DIRECTORY ${FOUND})
 set(ENV{TMPDIR} ${work})
 # New inputs go to the first folder, the seeds stay as they are.
 execute_process(
-  COMMAND ${TARGET} -seed=1 -runs=20000 -max_total_time=10 -timeout=10 -rss_limit_mb=1024 -max_len=${LENGTH} ${words}
+  COMMAND ${TARGET} ${range} -timeout=10 -rss_limit_mb=1024 -max_len=${LENGTH} ${words}
     -artifact_prefix=${FOUND}/ ${work}/inputs ${CORPUS}
   WORKING_DIRECTORY ${work}
   RESULT_VARIABLE result
