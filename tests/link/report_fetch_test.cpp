@@ -234,7 +234,7 @@ TEST_F(ReportFetch, AFetchThatSkipsTheLogTellsOfNothingThatWentWrong) {
     write("Dati/TIME.bin", "older");
     link().answer = answer;
     system.ended.clear();
-    EXPECT_EQ(Receive_ReportEcr(12, true), answer.returned == 1 && answer.result_code == 0);
+    EXPECT_EQ(Receive_ReportEcr(12, 0, true), answer.returned == 1 && answer.result_code == 0);
     EXPECT_EQ(system.ended.size(), answer.result_code == 9999 ? 1U : 0U) << "the hanging tool is ended as ever";
     system.running = {{51, "regwire.exe"}};
   }
