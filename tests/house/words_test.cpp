@@ -96,7 +96,8 @@ std::vector<fs::path> committed_files() {
   const fs::path root{VERMANTO_ROOT};
   std::vector<fs::path> files;
   for (const auto& entry : fs::directory_iterator{root}) {
-    if (entry.is_regular_file()) files.push_back(entry.path());
+    // Where the checkout is a second work tree, .git is a file.
+    if (entry.is_regular_file() && entry.path().filename() != ".git") files.push_back(entry.path());
   }
   for (const char* folder : {".ci", "bench", "cmake", "data", "docs", "fuzz", "src", "tests", "tools"}) {
     if (!fs::exists(root / folder)) continue;

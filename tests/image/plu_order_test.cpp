@@ -74,10 +74,14 @@ class ItemOrder : public InstallationTest {
     const Rows expected = by_passes(codes, saved, count);
     Ordina_Plu(codes, saved);
     EXPECT_EQ(PrgPlu.PluCount, expected.count);
-    for (std::size_t i = 0; i < plu_rows; ++i) {
-      const std::size_t from = i < codes.size() ? static_cast<std::size_t>(expected.stood[i]) : i;
+    for (std::size_t i = 0; i < codes.size(); ++i) {
+      const auto from = static_cast<std::size_t>(expected.stood[i]);
       ASSERT_EQ(row(PrgPlu.Row[i]), row((*before)[from])) << "row " << i;
     }
+    ASSERT_EQ(std::memcmp(PrgPlu.Row.data() + codes.size(), before->data() + codes.size(),
+                          (plu_rows - codes.size()) * sizeof(PluRecord)),
+              0)
+        << "the rows after them";
   }
 
   static Codes first_codes(std::size_t rows) {
