@@ -14,7 +14,6 @@
 #include "core/register_text.h"
 #include "image/prg_mode.h"
 #include "image/prg_plu.h"
-#include "image/side_files.h"
 #include "installation.h"
 #include "lang/language.h"
 #include "link/library.h"

@@ -1,12 +1,16 @@
 // Each of the small state files holds any bytes; so does a journal.
 
-#include "image/side_files.h"
-
 #include <algorithm>
 #include <cstring>
 #include <span>
 
 #include "core/global.h"
+#include "image/prg_mode.h"
+#include "keyboard/key_default.h"
+#include "lang/language.h"
+#include "link/ports.h"
+#include "logo/journal_file.h"
+#include "reports/export_option.h"
 #include "support/installation.h"
 
 namespace ecr::fuzz::side_files_target {

@@ -14,7 +14,6 @@
 #include "core/global.h"
 #include "image/prg_mode.h"
 #include "image/prg_plu.h"
-#include "image/side_files.h"
 #include "lang/language.h"
 #include "link/firmware.h"
 #include "link/ports.h"
@@ -134,7 +133,6 @@ void Installation::reset() {
   reset_catalogue();
   reset_prg_mode();
   reset_prg_plu();
-  reset_side_files();
   reset_language();
   reset_firmware();
   reset_ports();

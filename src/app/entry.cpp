@@ -31,7 +31,6 @@
 #include "editors/setting/frm_print_mode.h"
 #include "editors/setting/frm_report_setup.h"
 #include "editors/setting/frm_working_mode.h"
-#include "image/side_files.h"
 #include "keyboard/frm_advanced_setting.h"
 #include "lang/language.h"
 #include "logo/frm_set_logo.h"

@@ -8,7 +8,7 @@
 #include "core/model.h"
 #include "core/run_log.h"
 #include "image/prg_mode.h"
-#include "image/side_files.h"
+#include "keyboard/key_default.h"
 #include "keyboard/key_positions.h"
 #include "widgets/look.h"
 #include "widgets/screen_text.h"

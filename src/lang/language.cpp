@@ -8,13 +8,17 @@
 #include "core/global.h"
 #include "core/run_log.h"
 #include "core/shell.h"
+#include "core/small_files.h"
 #include "core/text.h"
-#include "image/side_files.h"
 
 namespace ecr {
 namespace {
 
 constexpr char section_sign = '\xA7';
+
+std::string language_number_file() {
+  return Global::PathSetup + "Language.ini";
+}
 
 void take_names(std::uint8_t number) {
   if (number >= languages.size()) return;
@@ -46,9 +50,23 @@ constexpr std::array<Language, 8> languages = {{
     {"Norsk", "FrmDescNv.txt", "help\\nv\\", "ECR Z3x0 S Programmeringsverktyg(NV).chm", "Norway.gif"},
 }};
 
+std::uint8_t LanguageNumber = 0;
 std::string LanguageFile;
 std::string HelpFile;
 std::string FlagPicture;
+
+void Read_Language() {
+  if (!file_exists(language_number_file())) {
+    LanguageNumber = 0;
+    Write_Language();
+    return;
+  }
+  read_small_file(language_number_file(), {&LanguageNumber, 1});
+}
+
+void Write_Language() {
+  write_small_file(language_number_file(), {&LanguageNumber, 1});
+}
 
 void selezione_lingua(std::uint8_t number) {
   LanguageNumber = number;
@@ -93,6 +111,7 @@ void parse_language(std::string_view bytes) {
 }
 
 void reset_language() {
+  LanguageNumber = 0;
   LanguageFile.clear();
   HelpFile.clear();
   FlagPicture.clear();

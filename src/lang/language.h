@@ -24,6 +24,14 @@ struct Language {
 /// By language number, 0 to 7: English, Spanish, French, German, Dutch, Portuguese, Danish, Norwegian. Names are UTF-8.
 extern const std::array<Language, 8> languages;
 
+/// Number of the chosen language, the byte of Setup\Language.ini.
+extern std::uint8_t LanguageNumber;
+
+/// A missing file makes the number 0 and is created with it; a read that fails leaves the number as it was.
+void Read_Language();
+/// A failure is silent.
+void Write_Language();
+
 // The files of the chosen language; a number outside the table leaves them as they were.
 extern std::string LanguageFile;  ///< name in PathSetup, empty before any language was chosen
 extern std::string HelpFile;      ///< name in Global::PathHelp

@@ -6,7 +6,6 @@
 #include <tuple>
 
 #include "core/code_page.h"
-#include "image/side_files.h"
 #include "lang/language.h"
 #include "lang/own_text_row.h"
 #include "lang/own_texts_of_fields.h"

@@ -9,6 +9,7 @@
 #include "core/global.h"
 #include "core/run_log.h"
 #include "core/shell.h"
+#include "core/small_files.h"
 #include "core/system.h"
 #include "core/text.h"
 #include "link/firmware.h"
@@ -172,6 +173,10 @@ std::string emulated_model() {
     if (line.starts_with(key)) return std::string{trim_end(line.substr(key.size()))};
   }
   return {};
+}
+
+void Write_rs232_fw(std::uint8_t port) {
+  write_small_file(Global::PathApp + "port.ini", {&port, 1});
 }
 
 void reset_ports() {

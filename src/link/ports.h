@@ -50,6 +50,9 @@ bool Get_OsBits();
 /// The model of the emulated register that lies in the application folder, as its text file says; empty without one.
 [[nodiscard]] std::string emulated_model();
 
+/// Writes `port` to port.ini in the application folder; the exchange tool reads it there. A failure is silent.
+void Write_rs232_fw(std::uint8_t port);
+
 void reset_ports();
 
 }  // namespace ecr

@@ -7,7 +7,6 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "image/side_files.h"
 #include "lang/language.h"
 
 namespace ecr {

@@ -12,7 +12,6 @@
 #include "core/catalogue.h"
 #include "core/global.h"
 #include "house/screen_check.h"
-#include "image/side_files.h"
 #include "lang/language.h"
 #include "screens/frm_pres.h"
 #include "screens/frm_principale.h"

@@ -6,7 +6,6 @@
 
 #include "core/catalogue.h"
 #include "core/global.h"
-#include "image/side_files.h"
 #include "lang/language.h"
 #include "support/installation.h"
 #include "support/unprivileged_linux.h"

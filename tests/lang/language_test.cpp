@@ -6,7 +6,6 @@
 
 #include "core/catalogue.h"
 #include "core/global.h"
-#include "image/side_files.h"
 #include "support/installation.h"
 
 namespace ecr::test {

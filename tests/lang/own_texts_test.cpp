@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "core/code_page.h"
-#include "image/side_files.h"
 #include "lang/language.h"
 
 namespace ecr::test {

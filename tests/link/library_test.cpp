@@ -13,7 +13,7 @@
 #include "core/files.h"
 #include "core/global.h"
 #include "core/text.h"
-#include "image/side_files.h"
+#include "lang/language.h"
 #include "lang/own_texts.h"
 #include "link/tilbridge2.h"
 #include "platform/platform.h"

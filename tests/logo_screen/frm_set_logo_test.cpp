@@ -8,7 +8,7 @@
 
 #include "core/catalogue.h"
 #include "core/global.h"
-#include "image/side_files.h"
+#include "logo/journal_file.h"
 #include "logo/paper_preview.h"
 #include "support/bitmap_file.h"
 #include "support_qt/screen_test.h"

@@ -4,7 +4,7 @@
 
 #include "image/prg_mode.h"
 #include "image/prg_plu.h"
-#include "image/side_files.h"
+#include "lang/language.h"
 #include "report_test.h"
 
 namespace ecr::test {

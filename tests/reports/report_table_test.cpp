@@ -7,7 +7,7 @@
 
 #include "image/prg_mode.h"
 #include "image/prg_plu.h"
-#include "image/side_files.h"
+#include "lang/language.h"
 #include "report_test.h"
 #include "support/random.h"
 

@@ -4,7 +4,7 @@
 
 #include "core/catalogue.h"
 #include "core/global.h"
-#include "image/side_files.h"
+#include "lang/language.h"
 #include "support_qt/screen_test.h"
 
 namespace ecr::test {

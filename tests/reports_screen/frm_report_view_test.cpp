@@ -10,7 +10,7 @@
 #include <QTimer>
 
 #include "core/global.h"
-#include "image/side_files.h"
+#include "lang/language.h"
 #include "reports/chart_view.h"
 #include "reports/layout.h"
 #include "support_qt/screen_test.h"

@@ -6,7 +6,6 @@
 
 #include "core/catalogue.h"
 #include "core/files.h"
-#include "image/side_files.h"
 #include "lang/language.h"
 #include "screens/start_screen.h"
 

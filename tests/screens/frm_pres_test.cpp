@@ -14,7 +14,6 @@
 #include <QTest>
 
 #include "core/catalogue.h"
-#include "image/side_files.h"
 #include "lang/language.h"
 #include "screens/start_screen.h"
 #include "widgets/look.h"

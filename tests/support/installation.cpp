@@ -15,7 +15,6 @@
 #include "core/text.h"
 #include "image/prg_mode.h"
 #include "image/prg_plu.h"
-#include "image/side_files.h"
 #include "lang/language.h"
 #include "link/firmware.h"
 #include "link/ports.h"
@@ -39,7 +38,6 @@ void reset_everything() {
   reset_catalogue();
   reset_prg_mode();
   reset_prg_plu();
-  reset_side_files();
   reset_language();
   reset_firmware();
   reset_ports();

@@ -13,7 +13,10 @@
 #include "core/catalogue.h"
 #include "core/global.h"
 #include "image/prg_plu.h"
+#include "keyboard/key_default.h"
 #include "lang/language.h"
+#include "logo/journal_file.h"
+#include "reports/export_option.h"
 #include "screens/frm_principale.h"
 #include "screens/frm_setup.h"
 #include "screens/screen_factory.h"
@@ -54,6 +57,9 @@ void WatchedShell::end_program() {
 
 ScreenTest::ScreenTest() {
   register_screens();
+  reset_export_option();
+  reset_key_default();
+  reset_journal();
   stage.show();
   work_until([this] { return stage.isActiveWindow(); });
 }

@@ -12,7 +12,7 @@
 #include <QTest>
 
 #include "core/catalogue.h"
-#include "image/side_files.h"
+#include "lang/language.h"
 #include "widgets/plain_screen.h"
 #include "widgets/real_shell.h"
 #include "widgets/wait_panel.h"

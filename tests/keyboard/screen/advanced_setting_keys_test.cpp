@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "image/side_files.h"
 #include "fields/key_codes.h"
+#include "keyboard/key_default.h"
 #include "widgets/look.h"
 
 namespace ecr::test {

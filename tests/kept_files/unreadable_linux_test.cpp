@@ -9,7 +9,11 @@
 #include "core/global.h"
 #include "image/prg_mode.h"
 #include "image/prg_plu.h"
-#include "image/side_files.h"
+#include "keyboard/key_default.h"
+#include "lang/language.h"
+#include "link/ports.h"
+#include "logo/journal_file.h"
+#include "reports/export_option.h"
 #include "support/installation.h"
 #include "support/unprivileged_linux.h"
 
