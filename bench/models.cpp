@@ -168,7 +168,7 @@ void link_call(benchmark::State& state) {
   install_link_library(std::make_unique<LinkOfNothing>());
   std::int32_t resultCode = 0;
   for (auto _ : state) {
-    benchmark::DoNotOptimize(util_send_cmd_to_ecr(Global::PathApp, Direction::upload, 12, resultCode, 2, 4));
+    benchmark::DoNotOptimize(util_send_cmd_to_ecr(Global::PathApp, TILBRIDGE_UPLOAD, 12, resultCode, 2, 4));
   }
   install_link_library(nullptr);
 }

@@ -107,7 +107,7 @@ void link_call_beside(benchmark::State& state, Program& program) {
   program.stand_on({});
   const BackgroundCalls background;
   std::int32_t resultCode = 0;
-  for (auto _ : state) util_send_cmd_to_ecr(Global::PathApp, Direction::upload, 12, resultCode, 2, Global::ComPort);
+  for (auto _ : state) util_send_cmd_to_ecr(Global::PathApp, TILBRIDGE_UPLOAD, 12, resultCode, 2, Global::ComPort);
   if (resultCode != 0) state.SkipWithError("the emulated register did not answer");
 }
 

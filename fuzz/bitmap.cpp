@@ -9,15 +9,15 @@
 #include "emulator/graphic.h"
 #include "emulator/logo_conversion.h"
 #include "emulator/receipt.h"
-#include "emulator/tool_codes.h"
+#include "link/tilbridge2.h"
 #include "support/installation.h"
 
 namespace ecr::fuzz::bitmap_target {
 namespace {
 
-constexpr std::array<std::int32_t, 5> faults = {PictureCode::no_bitmap, PictureCode::not_black_and_white,
-                                                PictureCode::unknown_type, PictureCode::too_many_dots,
-                                                PictureCode::not_made};
+constexpr std::array<std::int32_t, 5> faults = {TILBRIDGE_LOGO_NO_BITMAP, TILBRIDGE_LOGO_NOT_BLACK_AND_WHITE,
+                                                TILBRIDGE_LOGO_UNKNOWN_TYPE, TILBRIDGE_LOGO_TOO_MANY_DOTS,
+                                                TILBRIDGE_LOGO_FILE_NOT_MADE};
 
 void check_picture(const DotPicture& picture, const std::string& file) {
   require(fits_graphic(picture), "what is read fits into the register");
@@ -40,7 +40,7 @@ FUZZ_TARGET(bitmap) {
   const std::string file = file_of(data, size);
   DotPicture picture;
   const std::int32_t code = read_bitmap(file, picture);
-  if (code == PictureCode::done) {
+  if (code == bitmap_was_read) {
     check_picture(picture, file);
   } else {
     require(std::find(faults.begin(), faults.end(), code) != faults.end(), "the code is one of the reader's faults");

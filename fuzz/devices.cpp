@@ -8,8 +8,8 @@
 #include "core/fault.h"
 #include "core/global.h"
 #include "core/text.h"
-#include "link/error_tables.h"
 #include "link/ports.h"
+#include "link/tilbridge2.h"
 #include "support/installation.h"
 
 namespace ecr::fuzz::devices_target {
@@ -40,10 +40,10 @@ std::vector<int> ports_in(const std::vector<std::string>& captions) {
 std::vector<int> walk(bool skipLog, int register_port) {
   std::vector<int> tested;
   Installation::link([&tested, register_port](std::uint8_t number, std::uint8_t port) {
-    require(number == FileNumber::time, "the link test is report 12");
+    require(number == TILBRIDGE_FILE_TIME, "the link test is report 12");
     require(port != 0, "port 0 is never tried");
     tested.push_back(port);
-    return port == register_port ? ResultCode::done : ResultCode::port_not_opened;
+    return port == register_port ? TILBRIDGE_CODE_DONE : TILBRIDGE_CODE_PORT_NOT_OPENED;
   });
   int shown = -1;
   show_ports_on({[&shown](int number) { shown = number; }, [](PortColour) {}});

@@ -6,7 +6,7 @@
 #include "core/global.h"
 #include "emulator/emulated_register.h"
 #include "emulator/memory.h"
-#include "emulator/tool_codes.h"
+#include "link/tilbridge2.h"
 #include "support/installation.h"
 
 namespace ecr::fuzz::emulator_files_target {
@@ -24,9 +24,9 @@ void send_and_fetch(const Installation& installation, const EmulatedRegister& ma
 
   const auto sent = machine.send_cmd(1, number, 1, port);
   require(sent.has_value(), "the call is made");
-  require(*sent == (RegisterMemory::fits(number, file) ? ToolCode::done : ToolCode::refused),
+  require(*sent == (RegisterMemory::fits(number, file) ? TILBRIDGE_CODE_DONE : TILBRIDGE_CODE_REFUSED),
           "what fits is taken, all else refused");
-  const bool taken = *sent == ToolCode::done;
+  const bool taken = *sent == TILBRIDGE_CODE_DONE;
   require(installation.bytes(held) == (taken ? file : "what it held before"), "it holds what it took, byte for byte");
   require(installation.bytes(moved) == file, "what was sent stays as it is");
   require(file.size() <= RegisterMemory::longest(number) || !taken, "nothing too long is taken");
@@ -34,7 +34,7 @@ void send_and_fetch(const Installation& installation, const EmulatedRegister& ma
   // Whatever stands in its folder is handed over, also what it would not have taken.
   installation.write(held, file);
   installation.remove(moved);
-  require(machine.send_cmd(0, number, 1, port) == ToolCode::done, "what it holds can be fetched");
+  require(machine.send_cmd(0, number, 1, port) == TILBRIDGE_CODE_DONE, "what it holds can be fetched");
   require(installation.bytes(moved) == file, "and comes byte for byte");
   installation.remove(held);
   installation.remove(moved);
@@ -46,13 +46,13 @@ FUZZ_TARGET(emulator_files) {
   static Installation installation;
   static const EmulatedRegister machine{host_path(Global::PathApp)};
   const std::string file = file_of(data, size);
-  for (const std::uint8_t number : {ToolFile::image, ToolFile::plu, ToolFile::logo}) {
+  for (const std::uint8_t number : {TILBRIDGE_FILE_IMAGE, TILBRIDGE_FILE_PLU, TILBRIDGE_FILE_LOGO}) {
     send_and_fetch(installation, machine, number, file);
   }
 
   // A report is any bytes, a bitmap too.
   installation.write("register/reports/12.bin", file);
-  require(machine.send_cmd(0, ToolFile::time, 1, port) == ToolCode::done, "a report can be fetched");
+  require(machine.send_cmd(0, TILBRIDGE_FILE_TIME, 1, port) == TILBRIDGE_CODE_DONE, "a report can be fetched");
   require(installation.bytes("Dati/TIME.bin") == file, "and comes byte for byte");
   installation.remove("register/reports");
   installation.remove("Dati/TIME.bin");

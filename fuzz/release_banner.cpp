@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "core/global.h"
-#include "link/error_tables.h"
 #include "link/firmware.h"
+#include "link/tilbridge2.h"
 #include "support/installation.h"
 
 namespace ecr::fuzz::release_banner_target {
@@ -37,8 +37,8 @@ void fetch(Installation& installation, const std::string& file) {
   std::string told;
   watch_banner([&told](std::string_view banner) { told = banner; });
   Installation::link([&](std::uint8_t number, std::uint8_t) {
-    if (number == FileNumber::release) installation.write("Dati/RELEASE.BIN", file);
-    return ResultCode::done;
+    if (number == TILBRIDGE_FILE_RELEASE) installation.write("Dati/RELEASE.BIN", file);
+    return TILBRIDGE_CODE_DONE;
   });
   const bool is_family = banner_of(file).starts_with("ECRZ300/ECRZ320F    ");
   require(ends_program([] { Read_Fw_State(); }) == !is_family, "a register of another family ends the program");

@@ -13,9 +13,10 @@
 #include "core/global.h"
 #include "emulator/bcd.h"
 #include "emulator/journal.h"
-#include "emulator/tool_codes.h"
 #include "image/prg_mode.h"
 #include "image/prg_plu.h"
+#include "link/report_rows.h"
+#include "link/tilbridge2.h"
 #include "support/installation.h"
 
 namespace ecr::fuzz::trading_target {
@@ -40,27 +41,27 @@ std::string item_table(std::string_view bytes) {
 
 /// Every report by itself takes a file to read, so each round asks for one of them, and for one with a range.
 void expect_lengths(std::string_view folder, std::size_t round) {
-  constexpr std::size_t reports = ToolFile::last_report - ToolFile::first_report + 1;
-  const auto number = static_cast<std::uint8_t>(ToolFile::first_report + round % reports);
+  const std::uint8_t number = exported_reports[round % exported_reports.size()].number;
   static_cast<void>(trading::report_of(folder, number, Range{-1, 7}));
-  require(trading::report_of(folder, ToolFile::financial, std::nullopt).size() == 568, "the financial report is whole");
-  require(trading::report_of(folder, ToolFile::all_stock, std::nullopt).size() == 90000, "so is the stock");
+  require(trading::report_of(folder, TILBRIDGE_FILE_FINANCIAL, std::nullopt).size() == 568,
+          "the financial report is whole");
+  require(trading::report_of(folder, TILBRIDGE_FILE_ALL_STOCK, std::nullopt).size() == 90000, "so is the stock");
 }
 
 void expect_agreement(std::string_view folder) {
-  const std::string financial = trading::report_of(folder, ToolFile::financial, std::nullopt);
-  const std::string departments = trading::report_of(folder, ToolFile::departments, std::nullopt);
+  const std::string financial = trading::report_of(folder, TILBRIDGE_FILE_FINANCIAL, std::nullopt);
+  const std::string departments = trading::report_of(folder, TILBRIDGE_FILE_DEPARTMENTS, std::nullopt);
   std::int64_t sold = 0;
   for (std::size_t record = 0; record < departments.size(); record += 16) sold += amount_at(departments, record + 8);
   require(sold == amount_at(financial, 0), "the departments sum to the financial report");
   std::int64_t paid = 0;
   for (std::size_t medium = 0; medium < 9; ++medium) paid += amount_at(financial, 254 + 10 * medium);
   require(paid == amount_at(financial, 228), "so do the media");
-  const std::string hours = trading::report_of(folder, ToolFile::time, std::nullopt);
+  const std::string hours = trading::report_of(folder, TILBRIDGE_FILE_TIME, std::nullopt);
   std::int64_t day = 0;
   for (std::size_t hour = 0; hour < 24; ++hour) day += amount_at(hours, hour * 10 + 2);
   require(day == paid, "and the hours");
-  const std::string journal = trading::report_of(folder, ToolFile::daily_journal, std::nullopt);
+  const std::string journal = trading::report_of(folder, TILBRIDGE_FILE_DAILY_JOURNAL, std::nullopt);
   require(!journal.empty() && journal.size() % trading::JournalForm::record_size == 0, "the journal is of whole lines");
   for (std::size_t line = 0; line < journal.size(); line += trading::JournalForm::record_size) {
     require(journal[line] != '\0', "and no line ends it");

@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "emulator/graphic.h"
-#include "emulator/tool_codes.h"
+#include "link/tilbridge2.h"
 
 namespace ecr {
 namespace {
@@ -69,41 +69,41 @@ bool DotPicture::is_printed(std::size_t dot, std::size_t line) const {
 
 std::int32_t read_bitmap(std::string_view bytes, DotPicture& picture) {
   picture = {};
-  if (!bytes.starts_with("BM") || bytes.size() < bitmap_head + shortest_description) return PictureCode::no_bitmap;
+  if (!bytes.starts_with("BM") || bytes.size() < bitmap_head + shortest_description) return TILBRIDGE_LOGO_NO_BITMAP;
   const std::size_t description = number_at(bytes, Place::description, 4);
   if (std::find(known_descriptions.begin(), known_descriptions.end(), description) == known_descriptions.end()) {
-    return PictureCode::unknown_type;
+    return TILBRIDGE_LOGO_UNKNOWN_TYPE;
   }
   const auto width = static_cast<std::int32_t>(number_at(bytes, Place::width, 4));
   const auto height = static_cast<std::int32_t>(number_at(bytes, Place::height, 4));
-  if (width <= 0 || height == 0 || number_at(bytes, Place::planes, 2) != 1) return PictureCode::no_bitmap;
-  if (number_at(bytes, Place::bits_of_a_dot, 2) != 1) return PictureCode::not_black_and_white;
-  if (number_at(bytes, Place::packing, 4) != 0) return PictureCode::unknown_type;
-  if (static_cast<std::size_t>(width) > most_dots_in_a_line) return PictureCode::too_many_dots;
+  if (width <= 0 || height == 0 || number_at(bytes, Place::planes, 2) != 1) return TILBRIDGE_LOGO_NO_BITMAP;
+  if (number_at(bytes, Place::bits_of_a_dot, 2) != 1) return TILBRIDGE_LOGO_NOT_BLACK_AND_WHITE;
+  if (number_at(bytes, Place::packing, 4) != 0) return TILBRIDGE_LOGO_UNKNOWN_TYPE;
+  if (static_cast<std::size_t>(width) > most_dots_in_a_line) return TILBRIDGE_LOGO_TOO_MANY_DOTS;
 
   const std::size_t palette = bitmap_head + description;
   const std::uint32_t colours_used = number_at(bytes, Place::colours_used, 4);
   const std::size_t dots_begin = number_at(bytes, Place::dots, 4);
-  if (colours_used != 0 && colours_used != colours) return PictureCode::no_bitmap;
-  if (dots_begin < palette + colours * colour_size || dots_begin > bytes.size()) return PictureCode::no_bitmap;
+  if (colours_used != 0 && colours_used != colours) return TILBRIDGE_LOGO_NO_BITMAP;
+  if (dots_begin < palette + colours * colour_size || dots_begin > bytes.size()) return TILBRIDGE_LOGO_NO_BITMAP;
   const std::optional<bool> black = value_of_black(bytes.substr(palette, colours * colour_size));
-  if (!black) return PictureCode::not_black_and_white;
+  if (!black) return TILBRIDGE_LOGO_NOT_BLACK_AND_WHITE;
 
   DotPicture read;
   read.dots = static_cast<std::size_t>(width);
   // A negative height means that the first row is the upper one; the usual order is from the lower one upwards.
   const bool from_the_top = height < 0;
   read.lines = static_cast<std::size_t>(from_the_top ? -std::int64_t{height} : std::int64_t{height});
-  if (!fits_graphic(read)) return PictureCode::not_made;
+  if (!fits_graphic(read)) return TILBRIDGE_LOGO_FILE_NOT_MADE;
   const std::size_t stride = (read.dots + 31) / 32 * 4;
-  if (bytes.size() - dots_begin < read.lines * stride) return PictureCode::no_bitmap;
+  if (bytes.size() - dots_begin < read.lines * stride) return TILBRIDGE_LOGO_NO_BITMAP;
   read.rows.reserve(read.lines * read.row_bytes());
   for (std::size_t line = 0; line < read.lines; ++line) {
     const std::size_t stored = from_the_top ? line : read.lines - 1 - line;
     append_row(bytes.substr(dots_begin + stored * stride, stride), *black, read);
   }
   picture = std::move(read);
-  return PictureCode::done;
+  return bitmap_was_read;
 }
 
 }  // namespace ecr

@@ -27,9 +27,12 @@ inline constexpr std::size_t most_dots_in_a_line = 2048;
 /// How many bytes of a bitmap file decide what becomes of it: whoever reads more learns nothing new.
 inline constexpr std::size_t longest_bitmap = std::size_t{1024} * 1024;
 
-/// Reads a bitmap file of any bytes. The answer is 0, or the code of the first fault found: no bitmap, of an unknown
-/// kind, not black and white, too many dots in a line, more lines than the register has room for, cut short. `picture`
-/// is left empty on a fault.
+/// What read_bitmap returns where it read one; the conversion never ends with it.
+inline constexpr std::int32_t bitmap_was_read = 0;
+
+/// Reads a bitmap file of any bytes. Returns bitmap_was_read, or the code of the first fault found: no bitmap, of an
+/// unknown kind, not black and white, too many dots in a line, more lines than the register has room for, cut short.
+/// `picture` is left empty on a fault.
 [[nodiscard]] std::int32_t read_bitmap(std::string_view bytes, DotPicture& picture);
 
 }  // namespace ecr

@@ -7,8 +7,8 @@
 #include "emulator/bcd.h"
 #include "emulator/journal.h"
 #include "emulator/report_records.h"
-#include "emulator/tool_codes.h"
 #include "image/prg_plu.h"
+#include "link/tilbridge2.h"
 
 namespace ecr::trading {
 namespace {
@@ -169,27 +169,27 @@ std::string DayReports::report(std::uint8_t number, const std::optional<Range>& 
   };
   const auto clerk_in = [](std::string_view record) { return byte_in(record, 0); };
   switch (number) {
-    case ToolFile::cash_in_drawer:
+    case TILBRIDGE_FILE_CASH_IN_DRAWER:
       return std::string{part(financial).substr(drawer_in_financial, media_of_drawer_report * amount_size)};
-    case ToolFile::financial:
+    case TILBRIDGE_FILE_FINANCIAL:
       return std::string{part(financial)};
-    case ToolFile::departments:
+    case TILBRIDGE_FILE_DEPARTMENTS:
       if (!range) return std::string{part(departments)};
       return chosen(part(departments), RecordSize::department, *range,
                     [](std::string_view record) { return byte_in(record, 1); });
-    case ToolFile::department_groups:
+    case TILBRIDGE_FILE_DEPARTMENT_GROUP:
       if (!range) return first_records(part(groups), RecordSize::department);
       return chosen(part(groups), RecordSize::department, *range, clerk_in);
-    case ToolFile::all_items:
+    case TILBRIDGE_FILE_ALL_PLU:
       return std::string{part(items)};
-    case ToolFile::items_in_range:
+    case TILBRIDGE_FILE_PLU_RANGE:
       if (!range) return first_records(part(items), RecordSize::item);
       return chosen(part(items), RecordSize::item, *range, code_in);
-    case ToolFile::clerks:
+    case TILBRIDGE_FILE_CLERKS:
       return std::string{part(clerks)};
-    case ToolFile::training_clerks:
+    case TILBRIDGE_FILE_TRAINING_CLERKS:
       return std::string{part(training_clerks)};
-    case ToolFile::both_clerks: {
+    case TILBRIDGE_FILE_BOTH_CLERKS: {
       if (!range) {
         const std::string_view normal = part(financial).substr(0, RecordSize::clerk_body);
         return RecordWriter{}.byte(0).bytes(normal).bytes(part(training).substr(0, RecordSize::clerk_body)).take();
@@ -202,18 +202,18 @@ std::string DayReports::report(std::uint8_t number, const std::optional<Range>& 
       }
       return both;
     }
-    case ToolFile::time:
+    case TILBRIDGE_FILE_TIME:
       return std::string{part(hours)};
-    case ToolFile::training:
+    case TILBRIDGE_FILE_TRAINING:
       return std::string{part(training)};
-    case ToolFile::financial2:
+    case TILBRIDGE_FILE_FINANCIAL2:
       return std::string{part(financial).substr(0, RecordSize::short_financial)};
-    case ToolFile::open_tables:
+    case TILBRIDGE_FILE_OPEN_TABLES:
       return std::string{part(tables)};
-    case ToolFile::oldest_journal:
+    case TILBRIDGE_FILE_OLDEST_JOURNAL:
       return std::string{day_in(journal(), false)};
-    case ToolFile::latest_journal:
-    case ToolFile::daily_journal:
+    case TILBRIDGE_FILE_LATEST_JOURNAL:
+    case TILBRIDGE_FILE_DAILY_JOURNAL:
       return std::string{day_in(journal(), true)};
     default:
       return std::string{journal()};

@@ -8,8 +8,9 @@
 #include "core/system.h"
 #include "emulator/logo_conversion.h"
 #include "emulator/receipt.h"
-#include "emulator/tool_codes.h"
 #include "emulator/trading.h"
+#include "link/report_rows.h"
+#include "link/tilbridge2.h"
 
 namespace ecr {
 namespace {
@@ -29,7 +30,7 @@ bool port_answers(std::uint8_t port, const RegisterSettings& settings) {
 }
 
 bool is_report(std::uint8_t file) {
-  return file >= ToolFile::first_report && file <= ToolFile::last_report;
+  return report_numbered(file) != nullptr && file != TILBRIDGE_FILE_RELEASE;
 }
 
 std::string_view text_of(const char* text) {
@@ -39,12 +40,12 @@ std::string_view text_of(const char* text) {
 }  // namespace
 
 std::int32_t code_of_reading(const Fault& fault) {
-  return fault.code == FaultCode::device_error ? ToolCode::file_not_read : ToolCode::file_not_opened;
+  return fault.code == FaultCode::device_error ? TILBRIDGE_CODE_FILE_NOT_READ : TILBRIDGE_CODE_FILE_NOT_OPENED;
 }
 
 std::int32_t code_of_writing(const Fault& fault, bool file_was_there) {
   const bool failed_midway = fault.code == FaultCode::disk_full || fault.code == FaultCode::device_error;
-  return failed_midway || file_was_there ? ToolCode::file_not_written : ToolCode::file_not_made;
+  return failed_midway || file_was_there ? TILBRIDGE_CODE_FILE_NOT_WRITTEN : TILBRIDGE_CODE_FILE_NOT_MADE;
 }
 
 EmulatedRegister::EmulatedRegister(std::string_view application_folder)
@@ -58,11 +59,11 @@ std::optional<std::int32_t> EmulatedRegister::send_cmd(std::uint8_t direction, s
   const std::string note = "send_cmd folder=" + given_ + " direction=" + std::to_string(direction) +
                            " file=" + std::to_string(file) + " timeout=" + std::to_string(timeout) +
                            " port=" + std::to_string(port);
-  return call(note, file, [this, direction, file, port](const RegisterSettings& settings) {
-    if (!port_answers(port, settings)) return ToolCode::port_not_opened;
-    if (direction > 1) return ToolCode::illegal_direction;
-    if (file > ToolFile::release) return ToolCode::no_such_number;
-    return direction == 0 ? upload(file, settings) : download(file);
+  return call(note, file, [this, direction, file, port](const RegisterSettings& settings) -> std::int32_t {
+    if (!port_answers(port, settings)) return TILBRIDGE_CODE_PORT_NOT_OPENED;
+    if (direction > TILBRIDGE_DOWNLOAD) return TILBRIDGE_CODE_ILLEGAL_DIRECTION;
+    if (file > TILBRIDGE_FILE_RELEASE) return TILBRIDGE_CODE_NO_SUCH_FILE_NUMBER;
+    return direction == TILBRIDGE_UPLOAD ? upload(file, settings) : download(file);
   });
 }
 
@@ -71,10 +72,10 @@ std::optional<std::int32_t> EmulatedRegister::range_report(std::uint8_t file, st
   const std::string note = "range_report folder=" + given_ + " file=" + std::to_string(file) +
                            " timeout=" + std::to_string(timeout) + " from=" + std::to_string(from) +
                            " to=" + std::to_string(to) + " port=" + std::to_string(port);
-  return call(note, file, [this, file, from, to, port](const RegisterSettings& settings) {
-    if (!port_answers(port, settings)) return ToolCode::port_not_opened;
-    if (!is_report(file)) return ToolCode::no_such_number;
-    return from > to ? ToolCode::range_reversed : report(file, trading::Range{from, to});
+  return call(note, file, [this, file, from, to, port](const RegisterSettings& settings) -> std::int32_t {
+    if (!port_answers(port, settings)) return TILBRIDGE_CODE_PORT_NOT_OPENED;
+    if (!is_report(file)) return TILBRIDGE_CODE_NO_SUCH_FILE_NUMBER;
+    return from > to ? TILBRIDGE_CODE_RANGE_REVERSED : report(file, trading::Range{from, to});
   });
 }
 
@@ -85,7 +86,7 @@ std::optional<std::int32_t> EmulatedRegister::send_logo(const char* bitmap_folde
   return call(note, std::nullopt, [bitmap_folder, name](const RegisterSettings& settings) {
     const std::optional<std::int32_t> set = settings.logo_answer();
     if (set && !says_converted(*set)) return *set;
-    if (bitmap_folder == nullptr || name == nullptr) return set.value_or(PictureCode::missing_argument);
+    if (bitmap_folder == nullptr || name == nullptr) return set.value_or(TILBRIDGE_LOGO_ILLEGAL_PARAMETER_COUNT);
     const std::int32_t code = convert_logo(folder_form(bitmap_folder), name);
     return set.value_or(code);
   });
@@ -103,9 +104,9 @@ std::optional<std::int32_t> EmulatedRegister::call(const std::string& note, std:
     settings.hang_no_more();
     // Where there is no such program the call has timed out all the same.
     static_cast<void>(system_layer().start_minimised(host_path(folder_ + "regwire.exe"), {}));
-    return ToolCode::timeout;
+    return TILBRIDGE_CODE_TIMEOUT;
   }
-  if (const std::int32_t code = settings.answer(file); code != ToolCode::done) return code;
+  if (const std::int32_t code = settings.answer(file); code != TILBRIDGE_CODE_DONE) return code;
   return work(settings);
 }
 
@@ -135,9 +136,9 @@ void EmulatedRegister::append_to_calls(const std::string& note) const {
 
 std::int32_t EmulatedRegister::upload(std::uint8_t file, const RegisterSettings& settings) const {
   if (is_report(file)) return report(file, std::nullopt);
-  if (file == ToolFile::release) {
+  if (file == TILBRIDGE_FILE_RELEASE) {
     const std::string_view name = settings.release_file();
-    return name.empty() ? ToolCode::refused : deliver(name, settings.banner());
+    return name.empty() ? TILBRIDGE_CODE_REFUSED : deliver(name, settings.banner());
   }
   std::string bytes;
   const Fault fault = memory_.fetch(file, bytes);
@@ -145,18 +146,18 @@ std::int32_t EmulatedRegister::upload(std::uint8_t file, const RegisterSettings&
 }
 
 std::int32_t EmulatedRegister::download(std::uint8_t file) const {
-  if (file > ToolFile::logo) return ToolCode::report_download;
+  if (file > TILBRIDGE_FILE_LOGO) return TILBRIDGE_CODE_REPORT_DOWNLOAD;
   const std::string_view name = RegisterMemory::file_name(file);
   std::string bytes;
   // One byte more than fits tells a file that is too long.
   const Fault not_read = read_file(folder_ + "Dati\\" + std::string{name}, bytes, RegisterMemory::longest(file) + 1);
   if (not_read.stands()) return code_of_reading(not_read);
-  if (!RegisterMemory::fits(file, bytes)) return ToolCode::refused;
+  if (!RegisterMemory::fits(file, bytes)) return TILBRIDGE_CODE_REFUSED;
   const bool held_before = file_exists(register_ + std::string{name});
   const Fault not_held = memory_.hold(file, bytes);
   if (not_held.stands()) return code_of_writing(not_held, held_before);
-  if (file == ToolFile::logo || file == ToolFile::image) draw_a_receipt();
-  return ToolCode::done;
+  if (file == TILBRIDGE_FILE_LOGO || file == TILBRIDGE_FILE_IMAGE) draw_a_receipt();
+  return TILBRIDGE_CODE_DONE;
 }
 
 std::int32_t EmulatedRegister::report(std::uint8_t file, const std::optional<trading::Range>& range) const {
@@ -167,14 +168,14 @@ std::int32_t EmulatedRegister::report(std::uint8_t file, const std::optional<tra
   } else if (fault.stands()) {
     return code_of_reading(fault);
   }
-  return deliver(std::string{report_file_names.at(file - ToolFile::first_report)} + ".bin", bytes);
+  return deliver(std::string{report_name(file)} + ".bin", bytes);
 }
 
 std::int32_t EmulatedRegister::deliver(std::string_view name, std::string_view bytes) const {
   const std::string path = folder_ + "Dati\\" + std::string{name};
   const bool there_before = file_exists(path);
   const Fault fault = save_file(path, bytes);
-  return fault.stands() ? code_of_writing(fault, there_before) : ToolCode::done;
+  return fault.stands() ? code_of_writing(fault, there_before) : TILBRIDGE_CODE_DONE;
 }
 
 }  // namespace ecr

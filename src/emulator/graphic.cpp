@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "emulator/memory.h"
-#include "emulator/tool_codes.h"
+#include "link/tilbridge2.h"
 
 namespace ecr {
 namespace {
@@ -25,7 +25,7 @@ std::size_t size_of_graphic(const DotPicture& picture) {
 }  // namespace
 
 bool fits_graphic(const DotPicture& picture) {
-  const std::size_t room = RegisterMemory::longest(ToolFile::logo);
+  const std::size_t room = RegisterMemory::longest(TILBRIDGE_FILE_LOGO);
   // The number of lines may be any before this is known.
   return picture.dots > 0 && picture.dots <= most_dots_in_a_line && picture.lines > 0 && picture.lines <= room &&
          size_of_graphic(picture) <= room;
@@ -56,7 +56,7 @@ std::int32_t code_of_fullness(const DotPicture& picture) {
   }
   const std::size_t of_line = 100 * fullest / picture.dots;
   const std::size_t of_all = 100 * all / (picture.dots * picture.lines);
-  return PictureCode::converted + static_cast<std::int32_t>(of_line * 256 + of_all);
+  return TILBRIDGE_LOGO_CONVERTED_FIRST + static_cast<std::int32_t>(of_line * 256 + of_all);
 }
 
 }  // namespace ecr

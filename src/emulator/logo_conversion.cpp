@@ -5,7 +5,7 @@
 #include "emulator/emulated_register.h"
 #include "emulator/graphic.h"
 #include "emulator/memory.h"
-#include "emulator/tool_codes.h"
+#include "link/tilbridge2.h"
 
 namespace ecr {
 
@@ -13,22 +13,23 @@ std::int32_t convert_logo(const std::string& folder, std::string_view name) {
   std::string bytes;
   const Fault not_read = read_file(folder + std::string{name}, bytes, longest_bitmap);
   if (not_read.stands()) {
-    return code_of_reading(not_read) == ToolCode::file_not_read ? PictureCode::not_read : PictureCode::not_opened;
+    return code_of_reading(not_read) == TILBRIDGE_CODE_FILE_NOT_READ ? TILBRIDGE_LOGO_FILE_NOT_READ
+                                                                     : TILBRIDGE_LOGO_FILE_NOT_OPENED;
   }
   DotPicture picture;
-  if (const std::int32_t code = read_bitmap(bytes, picture); code != PictureCode::done) return code;
-  const std::string target = folder + std::string{RegisterMemory::file_name(ToolFile::logo)};
+  if (const std::int32_t code = read_bitmap(bytes, picture); code != bitmap_was_read) return code;
+  const std::string target = folder + std::string{RegisterMemory::file_name(TILBRIDGE_FILE_LOGO)};
   const bool there_before = file_exists(target);
   const Fault not_written = save_file(target, graphic_of(picture));
   if (not_written.stands()) {
-    const bool not_made = code_of_writing(not_written, there_before) == ToolCode::file_not_made;
-    return not_made ? PictureCode::not_made : PictureCode::not_written;
+    const bool not_made = code_of_writing(not_written, there_before) == TILBRIDGE_CODE_FILE_NOT_MADE;
+    return not_made ? TILBRIDGE_LOGO_FILE_NOT_MADE : TILBRIDGE_LOGO_FILE_NOT_WRITTEN;
   }
   return code_of_fullness(picture);
 }
 
 bool says_converted(std::int32_t code) {
-  return code >= PictureCode::converted && code <= PictureCode::converted_most;
+  return code >= TILBRIDGE_LOGO_CONVERTED_FIRST && code <= TILBRIDGE_LOGO_CONVERTED_LAST;
 }
 
 }  // namespace ecr

@@ -4,9 +4,9 @@
 #include <cstddef>
 
 #include "core/files.h"
-#include "emulator/tool_codes.h"
 #include "image/prg_mode.h"
 #include "image/prg_plu.h"
+#include "link/tilbridge2.h"
 
 namespace ecr {
 namespace {
@@ -27,13 +27,13 @@ std::string_view RegisterMemory::file_name(std::uint8_t file) {
 }
 
 std::size_t RegisterMemory::longest(std::uint8_t file) {
-  if (file == ToolFile::image) return prg_mode_size;
-  return file == ToolFile::plu ? plu_head_size + plu_records_max * sizeof(PluRecord) : longest_logo;
+  if (file == TILBRIDGE_FILE_IMAGE) return prg_mode_size;
+  return file == TILBRIDGE_FILE_PLU ? plu_head_size + plu_records_max * sizeof(PluRecord) : longest_logo;
 }
 
 bool RegisterMemory::fits(std::uint8_t file, std::string_view bytes) {
-  if (file == ToolFile::image) return bytes.size() == prg_mode_size;
-  if (file == ToolFile::plu) return item_table_fits(bytes);
+  if (file == TILBRIDGE_FILE_IMAGE) return bytes.size() == prg_mode_size;
+  if (file == TILBRIDGE_FILE_PLU) return item_table_fits(bytes);
   return !bytes.empty() && bytes.size() <= longest_logo;
 }
 

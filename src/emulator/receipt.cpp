@@ -11,8 +11,8 @@
 #include "emulator/graphic.h"
 #include "emulator/memory.h"
 #include "emulator/receipt_font.h"
-#include "emulator/tool_codes.h"
 #include "image/prg_mode.h"
+#include "link/tilbridge2.h"
 
 namespace ecr {
 namespace {
@@ -109,7 +109,7 @@ std::string line_of_register(std::string_view bytes) {
 std::vector<std::string> heading_lines(const RegisterMemory& memory) {
   std::string bytes;
   std::vector<std::string> lines;
-  if (memory.fetch(ToolFile::image, bytes).stands() || bytes.size() != prg_mode_size) return lines;
+  if (memory.fetch(TILBRIDGE_FILE_IMAGE, bytes).stands() || bytes.size() != prg_mode_size) return lines;
   PrgModeImage image{};
   std::memcpy(&image, bytes.data(), sizeof image);
   for (const auto& field : image.ReceiptHeader) {
@@ -197,7 +197,7 @@ Fault draw_receipt(const std::string& folder, std::string_view journal) {
   const std::string file = folder + std::string{receipt_file};
   const RegisterMemory memory{folder};
   std::string held;
-  const Fault fault = memory.fetch(ToolFile::logo, held);
+  const Fault fault = memory.fetch(TILBRIDGE_FILE_LOGO, held);
   const std::optional<DotPicture> logo = fault.stands() ? std::nullopt : picture_in_graphic(held);
   if (!logo) return file_exists(file) ? delete_file(file) : Fault{};
   std::vector<std::string> lines = heading_lines(memory);

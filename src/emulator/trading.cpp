@@ -10,10 +10,10 @@
 #include "emulator/journal.h"
 #include "emulator/memory.h"
 #include "emulator/shop.h"
-#include "emulator/tool_codes.h"
 #include "emulator/totals.h"
 #include "image/prg_mode.h"
 #include "image/prg_plu.h"
+#include "link/tilbridge2.h"
 
 namespace ecr::trading {
 namespace {
@@ -82,9 +82,9 @@ std::string fetch(const RegisterMemory& memory, std::uint8_t file, std::string& 
 
 std::string fetch(const RegisterMemory& memory, Programming& programming) {
   std::string bytes;
-  if (std::string wrong = fetch(memory, ToolFile::image, bytes); !wrong.empty()) return wrong;
+  if (std::string wrong = fetch(memory, TILBRIDGE_FILE_IMAGE, bytes); !wrong.empty()) return wrong;
   std::memcpy(&programming.image, bytes.data(), sizeof programming.image);
-  return fetch(memory, ToolFile::plu, programming.items);
+  return fetch(memory, TILBRIDGE_FILE_PLU, programming.items);
 }
 
 std::string hold(const RegisterMemory& memory, std::uint8_t file, std::string_view bytes) {
@@ -131,20 +131,20 @@ std::string trade(std::string_view folder, std::uint64_t seed, TradedDay which) 
     write_bcd(programming.image.SysOpt5, day.number);
     write_bcd(programming.image.SysOpt6, next_close(shop.z2));
     write_bcd(programming.image.SysOpt7, grand.total);
-    if (std::string wrong = hold(memory, ToolFile::plu, programming.items); !wrong.empty()) return wrong;
+    if (std::string wrong = hold(memory, TILBRIDGE_FILE_PLU, programming.items); !wrong.empty()) return wrong;
     const std::string_view image = bytes_of_image(programming.image);
-    if (std::string wrong = hold(memory, ToolFile::image, image); !wrong.empty()) return wrong;
+    if (std::string wrong = hold(memory, TILBRIDGE_FILE_IMAGE, image); !wrong.empty()) return wrong;
   }
   return words_for(totals_name, save_file(std::string{folder} + std::string{totals_name}, reports.bytes()));
 }
 
 std::string report_of(std::string_view folder, std::uint8_t number, const std::optional<Range>& range) {
   const RegisterMemory memory{folder};
-  if (number == ToolFile::all_stock || number == ToolFile::stock_in_range) {
+  if (number == TILBRIDGE_FILE_ALL_STOCK || number == TILBRIDGE_FILE_STOCK_RANGE) {
     std::string items;
     // A table that cannot be read holds no items.
-    static_cast<void>(memory.fetch(ToolFile::plu, items));
-    if (number == ToolFile::all_stock) return stock_report(items, std::nullopt);
+    static_cast<void>(memory.fetch(TILBRIDGE_FILE_PLU, items));
+    if (number == TILBRIDGE_FILE_ALL_STOCK) return stock_report(items, std::nullopt);
     constexpr Range any_stock{0, 9999};
     return stock_report(items, range.value_or(any_stock));
   }

@@ -1,27 +1,11 @@
 #pragma once
-// File numbers and result codes of the link library, with the texts that the library's makers give them.
+// The texts that the makers of the link library give to its result codes, TilbridgeResult and TilbridgeConversion.
 
 #include <array>
 #include <cstdint>
 #include <string_view>
 
 namespace ecr {
-
-namespace FileNumber {
-inline constexpr std::uint8_t image = 0;
-inline constexpr std::uint8_t plu = 1;
-inline constexpr std::uint8_t logo = 2;
-inline constexpr std::uint8_t time = 12;  ///< the cheapest report, which also serves as the link test
-inline constexpr std::uint8_t release = 22;
-}  // namespace FileNumber
-
-namespace ResultCode {
-inline constexpr std::int32_t done = 0;
-inline constexpr std::int32_t port_not_opened = 1025;
-inline constexpr std::int32_t busy = 4097;
-inline constexpr std::int32_t refused = 4098;
-inline constexpr std::int32_t timeout = 9999;  ///< the exchange tool is left running
-}  // namespace ResultCode
 
 struct CodeText32 {
   std::int32_t code;

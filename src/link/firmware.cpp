@@ -41,15 +41,15 @@ bool Get_Release() {
   }
   std::int32_t resultCode = 0;
   const std::int32_t answer =
-      util_send_cmd_to_ecr(Global::PathApp, Direction::upload, FileNumber::release, resultCode, 3, Global::ComPort);
+      util_send_cmd_to_ecr(Global::PathApp, TILBRIDGE_UPLOAD, TILBRIDGE_FILE_RELEASE, resultCode, 3, Global::ComPort);
   if (answer != 1) {
     // The words of the report fetch are this line's own.
     memo_log("Receive_ReportEcr error using regwire");
     return false;
   }
-  if (resultCode == ResultCode::done) return true;
+  if (resultCode == TILBRIDGE_CODE_DONE) return true;
   memo_log("Get_Release error. Code: " + hex_text(resultCode) + " Desc: " + std::string{NumToDesc_RegWire(resultCode)});
-  if (resultCode == ResultCode::timeout) Process_Kill(exchange_tool);
+  if (resultCode == TILBRIDGE_CODE_TIMEOUT) Process_Kill(exchange_tool);
   return false;
 }
 
@@ -84,7 +84,7 @@ void Read_Fw_State() {
 }
 
 bool Test_Connection(bool skipLog) {
-  return Global::ComPort != 0 && Receive_ReportEcr(FileNumber::time, 0, skipLog);
+  return Global::ComPort != 0 && Receive_ReportEcr(TILBRIDGE_FILE_TIME, {.skip_log = skipLog});
 }
 
 void watch_banner(std::function<void(std::string_view)> watcher) {

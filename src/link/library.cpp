@@ -11,9 +11,7 @@
 #include "core/global.h"
 #include "core/run_log.h"
 #include "core/system.h"
-#include "link/error_tables.h"
 #include "link/report_rows.h"
-#include "link/tilbridge2.h"
 
 namespace ecr {
 namespace {
@@ -132,17 +130,17 @@ std::int32_t call_beside(std::string_view what, std::string& folder, std::int32_
 }
 
 std::string what_moves(std::uint8_t direction, std::uint8_t fileNumber) {
-  const bool up = direction == Direction::upload;
+  const bool up = direction == TILBRIDGE_UPLOAD;
   switch (fileNumber) {
-    case FileNumber::image:
+    case TILBRIDGE_FILE_IMAGE:
       return up ? "Reading the programming from the register" : "Sending the programming to the register";
-    case FileNumber::plu:
+    case TILBRIDGE_FILE_PLU:
       return up ? "Reading the items from the register" : "Sending the items to the register";
-    case FileNumber::logo:
+    case TILBRIDGE_FILE_LOGO:
       return "Sending the logo to the register";
-    case FileNumber::time:
+    case TILBRIDGE_FILE_TIME:
       return "Looking for the register";
-    case FileNumber::release:
+    case TILBRIDGE_FILE_RELEASE:
       return "Asking the register for its release";
     default:
       return "Reading the report " + std::string{report_name(fileNumber)};
@@ -161,7 +159,7 @@ std::int32_t util_send_cmd_to_ecr(std::string& folder, std::uint8_t direction, s
 std::int32_t util_get_range_report(std::string& folder, std::uint8_t fileNumber, std::int32_t& resultCode,
                                    std::int32_t timeout, std::int32_t rangeFrom, std::int32_t rangeTo,
                                    std::uint8_t port) {
-  return call_beside(what_moves(Direction::upload, fileNumber), folder, resultCode,
+  return call_beside(what_moves(TILBRIDGE_UPLOAD, fileNumber), folder, resultCode,
                      [&](LinkLibrary& link, std::string& host) {
                        return link.range_report(host, fileNumber, resultCode, timeout, rangeFrom, rangeTo, port);
                      });

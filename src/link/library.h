@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "core/shell.h"
+#include "link/tilbridge2.h"
 
 namespace ecr {
 
@@ -31,11 +32,6 @@ class LinkLibrary {
   virtual std::int32_t send_logo(std::string& source, const std::string& target1, const std::string& target2,
                                  std::int32_t& resultCode, std::int32_t timeout) = 0;
 };
-
-namespace Direction {
-inline constexpr std::uint8_t upload = 0;    ///< from the register to the PC
-inline constexpr std::uint8_t download = 1;  ///< from the PC to the register
-}  // namespace Direction
 
 /// Texts are in the form of the folder variables; `timeout` is in seconds. `resultCode` is set to 0 before the call.
 std::int32_t util_send_cmd_to_ecr(std::string& folder, std::uint8_t direction, std::uint8_t fileNumber,

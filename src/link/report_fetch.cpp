@@ -26,7 +26,7 @@ Fault displace_older(std::string_view report) {
 
 }  // namespace
 
-bool Receive_ReportEcr(std::uint8_t number, std::int32_t first_record, bool skipLog) {
+bool Receive_ReportEcr(std::uint8_t number, const ReportFetch& fetch) {
   const Report* report = report_numbered(number);
   if (report == nullptr) return false;
   const Fault pending = displace_older(report->name);
@@ -34,26 +34,23 @@ bool Receive_ReportEcr(std::uint8_t number, std::int32_t first_record, bool skip
   std::int32_t resultCode = 0;
   std::int32_t answer = 0;
   if (const auto& range = report->range) {
-    answer = util_get_range_report(Global::PathApp, number, resultCode, report->timeout,
-                                   range->first_is_typed ? first_record : range->first, range->last, Global::ComPort);
+    answer =
+        util_get_range_report(Global::PathApp, number, resultCode, report->timeout,
+                              range->first_is_typed ? fetch.first_record : range->first, range->last, Global::ComPort);
   } else {
     answer =
-        util_send_cmd_to_ecr(Global::PathApp, Direction::upload, number, resultCode, report->timeout, Global::ComPort);
+        util_send_cmd_to_ecr(Global::PathApp, TILBRIDGE_UPLOAD, number, resultCode, report->timeout, Global::ComPort);
   }
 
-  const bool delivered = answer == 1 && resultCode == ResultCode::done;
-  const bool timed_out = answer == 1 && !report->range && resultCode == ResultCode::timeout;
-  if (skipLog) {
-    if (timed_out) Process_Kill(exchange_tool);
-    return delivered;
-  }
+  const bool delivered = answer == 1 && resultCode == TILBRIDGE_CODE_DONE;
+  if (answer == 1 && !report->range && resultCode == TILBRIDGE_CODE_TIMEOUT) Process_Kill(exchange_tool);
+  if (fetch.skip_log) return delivered;
   if (answer != 1) {
     memo_log("Receive_ReportEcr error using regwire");
   } else if (!delivered) {
     memo_log("Receive_ReportEcr error. File " + std::to_string(number) + " Code: " + hex_text(resultCode) +
              " Desc: " + std::string{NumToDesc_RegWire(resultCode)});
   }
-  if (timed_out) Process_Kill(exchange_tool);
   if (pending.stands()) log_fault("Receive_ReportEcr " + std::to_string(number) + ": ", pending);
   return delivered;
 }

@@ -12,6 +12,7 @@
 
 #include "core/catalogue.h"
 #include "core/model.h"
+#include "link/tilbridge2.h"
 
 namespace ecr {
 
@@ -40,7 +41,7 @@ struct RecordRange {
 };
 
 struct Report {
-  std::uint8_t number = 0;  ///< its file number in the calls of the link library
+  std::uint8_t number = 0;  ///< one of TilbridgeFile
   std::string_view name{};  ///< the names of its files begin with it
   ReportKind kind = ReportKind::none;
   std::int32_t timeout = 0;  ///< seconds
@@ -53,49 +54,48 @@ struct Report {
 
 // clang-format off
 inline constexpr std::array<Report, 20> report_rows = {{
-    {.number = 3, .name = "C-I-D", .kind = ReportKind::drawer, .timeout = 60,
+    {.number = TILBRIDGE_FILE_CASH_IN_DRAWER, .name = "C-I-D", .kind = ReportKind::drawer, .timeout = 60,
      .caption = "Cash In Drawer Report", .caption_key = Key::FRM_REPORT_EXPORT_CHK_REPORT_3},
-    {.number = 4, .name = "FINANCIAL", .kind = ReportKind::financial, .timeout = 60,
+    {.number = TILBRIDGE_FILE_FINANCIAL, .name = "FINANCIAL", .kind = ReportKind::financial, .timeout = 60,
      .caption = "Financial (Z1) Report", .caption_key = Key::FRM_REPORT_EXPORT_CHK_REPORT_4},
-    {.number = 5, .name = "RANGE DEPT", .kind = ReportKind::departments, .timeout = 120,
+    {.number = TILBRIDGE_FILE_DEPARTMENTS, .name = "RANGE DEPT", .kind = ReportKind::departments, .timeout = 120,
      .caption = "Range Department Report", .caption_key = Key::FRM_REPORT_EXPORT_CHK_REPORT_5,
      .range = RecordRange{.first = 1, .last = 99}},
-    {.number = 6, .name = "DEPT GROUP", .kind = ReportKind::department_group, .timeout = 60,
+    {.number = TILBRIDGE_FILE_DEPARTMENT_GROUP, .name = "DEPT GROUP", .kind = ReportKind::department_group, .timeout = 60,
      .caption = "Department Group Report"},
-    {.number = 7, .name = "ALL PLU", .kind = ReportKind::items, .timeout = 180,
+    {.number = TILBRIDGE_FILE_ALL_PLU, .name = "ALL PLU", .kind = ReportKind::items, .timeout = 180,
      .caption = "All PLU Report", .caption_key = Key::FRM_REPORT_EXPORT_CHK_REPORT_7},
-    {.number = 8, .name = "RANGE PLU", .kind = ReportKind::item_range, .timeout = 60,
+    {.number = TILBRIDGE_FILE_PLU_RANGE, .name = "RANGE PLU", .kind = ReportKind::item_range, .timeout = 60,
      .caption = "Range PLU Report"},
-    {.number = 9, .name = "ALL CLERK", .kind = ReportKind::clerks, .timeout = 60,
+    {.number = TILBRIDGE_FILE_CLERKS, .name = "ALL CLERK", .kind = ReportKind::clerks, .timeout = 60,
      .caption = "All Normal CLERK Report", .caption_key = Key::FRM_REPORT_EXPORT_CHK_REPORT_9},
-    {.number = 10, .name = "ALL T-CLERK", .kind = ReportKind::clerks, .timeout = 60,
+    {.number = TILBRIDGE_FILE_TRAINING_CLERKS, .name = "ALL T-CLERK", .kind = ReportKind::clerks, .timeout = 60,
      .caption = "All Training CLERK Report", .caption_key = Key::FRM_REPORT_EXPORT_CHK_REPORT_10},
-    {.number = 11, .name = "NT-CLERK", .kind = ReportKind::clerks, .timeout = 60,
+    {.number = TILBRIDGE_FILE_BOTH_CLERKS, .name = "NT-CLERK", .kind = ReportKind::clerks, .timeout = 60,
      .caption = "Normal + Training CLERK Report"},
-    // The cheapest report, which serves as the link test too.
-    {.number = 12, .name = "TIME", .kind = ReportKind::hours, .timeout = 2,
+    {.number = TILBRIDGE_FILE_TIME, .name = "TIME", .kind = ReportKind::hours, .timeout = 2,
      .caption = "Time Report", .caption_key = Key::FRM_REPORT_EXPORT_CHK_REPORT_12},
-    {.number = 13, .name = "TRAINING", .kind = ReportKind::financial, .timeout = 60,
+    {.number = TILBRIDGE_FILE_TRAINING, .name = "TRAINING", .kind = ReportKind::financial, .timeout = 60,
      .caption = "Training Report", .caption_key = Key::FRM_REPORT_EXPORT_CHK_REPORT_13},
-    {.number = 14, .name = "FINANCIAL2", .kind = ReportKind::financial, .timeout = 60,
+    {.number = TILBRIDGE_FILE_FINANCIAL2, .name = "FINANCIAL2", .kind = ReportKind::financial, .timeout = 60,
      .caption = "Financial (Z2) Report", .caption_key = Key::FRM_REPORT_EXPORT_CHK_REPORT_14},
-    {.number = 15, .name = "OPEN TBL", .kind = ReportKind::open_tables, .timeout = 60,
+    {.number = TILBRIDGE_FILE_OPEN_TABLES, .name = "OPEN TBL", .kind = ReportKind::open_tables, .timeout = 60,
      .caption = "Open Table Report", .models = Models::z320_only},
-    {.number = 16, .name = "FULL EJ", .kind = ReportKind::journal, .timeout = 360,
+    {.number = TILBRIDGE_FILE_FULL_JOURNAL, .name = "FULL EJ", .kind = ReportKind::journal, .timeout = 360,
      .caption = "Full Report for EJ", .caption_key = Key::FRM_REPORT_EXPORT_CHK_REPORT_16},
-    {.number = 17, .name = "OLD EJ", .kind = ReportKind::journal, .timeout = 360,
+    {.number = TILBRIDGE_FILE_OLDEST_JOURNAL, .name = "OLD EJ", .kind = ReportKind::journal, .timeout = 360,
      .caption = "Oldest Report for EJ"},
     // Shorter than the other journals', on purpose.
-    {.number = 18, .name = "LATE EJ", .kind = ReportKind::journal, .timeout = 60,
+    {.number = TILBRIDGE_FILE_LATEST_JOURNAL, .name = "LATE EJ", .kind = ReportKind::journal, .timeout = 60,
      .caption = "Lastest Report for EJ"},
-    {.number = 19, .name = "DAILY EJ", .kind = ReportKind::journal, .timeout = 360,
+    {.number = TILBRIDGE_FILE_DAILY_JOURNAL, .name = "DAILY EJ", .kind = ReportKind::journal, .timeout = 360,
      .caption = "Daily Report for EJ"},
-    {.number = 20, .name = "ASK", .kind = ReportKind::stock, .timeout = 60,
+    {.number = TILBRIDGE_FILE_ALL_STOCK, .name = "ASK", .kind = ReportKind::stock, .timeout = 60,
      .caption = "All PLU Stock Report", .caption_key = Key::FRM_REPORT_EXPORT_CHK_REPORT_20},
-    {.number = 21, .name = "MSK", .kind = ReportKind::stock, .timeout = 120,
+    {.number = TILBRIDGE_FILE_STOCK_RANGE, .name = "MSK", .kind = ReportKind::stock, .timeout = 120,
      .caption = "Mini PLU Stock Report", .caption_key = Key::FRM_REPORT_EXPORT_CHK_REPORT_21,
      .range = RecordRange{.first = 0, .last = 9999, .first_is_typed = true}},
-    {.number = 22, .name = "RELEASE", .kind = ReportKind::release, .timeout = 60},
+    {.number = TILBRIDGE_FILE_RELEASE, .name = "RELEASE", .kind = ReportKind::release, .timeout = 60},
 }};
 // clang-format on
 

@@ -40,7 +40,7 @@ void merge_what_the_register_owns() {
   // Where the name is taken the older copy stays and the upload goes over the current file.
   static_cast<void>(rename_file(image, Global::PathDati + "PRG_MODE_SAV.BIN"));
   std::int32_t resultCode = 0;
-  const std::int32_t answer = util_send_cmd_to_ecr(Global::PathApp, Direction::upload, FileNumber::image, resultCode,
+  const std::int32_t answer = util_send_cmd_to_ecr(Global::PathApp, TILBRIDGE_UPLOAD, TILBRIDGE_FILE_IMAGE, resultCode,
                                                    image_timeout, Global::ComPort);
   if (answer == 0) {
     memo_log("Send_PrgModeToEcr: Errore nella chiamata di REGWIRE. File 0");
@@ -61,20 +61,20 @@ Upload read_file_from_register(std::uint8_t fileNumber, std::int32_t timeout) {
   const std::string number = std::to_string(fileNumber);
   std::int32_t resultCode = 0;
   const std::int32_t answer =
-      util_send_cmd_to_ecr(Global::PathApp, Direction::upload, fileNumber, resultCode, timeout, Global::ComPort);
+      util_send_cmd_to_ecr(Global::PathApp, TILBRIDGE_UPLOAD, fileNumber, resultCode, timeout, Global::ComPort);
   if (answer == 0) {
     memo_log("Errore nella chiamata di REGWIRE. File " + number);
     tell(BoxKind::plain, message(Key::FRM_PRINCIPALE_ECR_REGWIRE_KO_MSG));
     return Upload::not_run;
   }
-  if (resultCode != ResultCode::done) {
+  if (resultCode != TILBRIDGE_CODE_DONE) {
     const std::string line = "REGWIRE return error: " + hex_text(resultCode) + " . File " + number;
     const std::string text{message_or(Key::FRM_PRINCIPALE_COMUNICATION_ERROR_MSG, "Comunicatione error: ")};
     // The two files are told apart by a blank and a description, on purpose.
-    const bool is_plu = fileNumber == FileNumber::plu;
+    const bool is_plu = fileNumber == TILBRIDGE_FILE_PLU;
     memo_log(is_plu ? line + " Desc: " + description(resultCode) : line);
     tell(BoxKind::critical, text + (is_plu ? " " : "") + description(resultCode));
-    if (resultCode == ResultCode::timeout) Process_Kill(exchange_tool);
+    if (resultCode == TILBRIDGE_CODE_TIMEOUT) Process_Kill(exchange_tool);
     return Upload::refused;
   }
   return Upload::done;
@@ -87,15 +87,15 @@ bool Send_PrgModeToEcr(const bool& sendPlu, const bool& skipMerge) {
   if (!skipMerge) merge_what_the_register_owns();
 
   std::int32_t resultCode = 0;
-  const std::int32_t answer = util_send_cmd_to_ecr(Global::PathApp, Direction::download, FileNumber::image, resultCode,
-                                                   image_timeout, Global::ComPort);
+  const std::int32_t answer = util_send_cmd_to_ecr(Global::PathApp, TILBRIDGE_DOWNLOAD, TILBRIDGE_FILE_IMAGE,
+                                                   resultCode, image_timeout, Global::ComPort);
   if (answer != 1) {
     memo_log("Send_PrgModeToEcr error using regwire");
     return false;
   }
-  if (resultCode != ResultCode::done) {
+  if (resultCode != TILBRIDGE_CODE_DONE) {
     memo_log("Send_PrgModeToEcr error. Code: " + hex_text(resultCode) + " Desc: " + description(resultCode));
-    if (resultCode == ResultCode::timeout) Process_Kill(exchange_tool);
+    if (resultCode == TILBRIDGE_CODE_TIMEOUT) Process_Kill(exchange_tool);
     return false;
   }
   if (sendPlu && !Send_PrgPluToEcr()) tell(BoxKind::critical, MsgProgramKo);
@@ -105,20 +105,20 @@ bool Send_PrgModeToEcr(const bool& sendPlu, const bool& skipMerge) {
 bool Send_PrgPluToEcr() {
   check_link_or_end();
   std::int32_t resultCode = 0;
-  const std::int32_t answer = util_send_cmd_to_ecr(Global::PathApp, Direction::download, FileNumber::plu, resultCode,
+  const std::int32_t answer = util_send_cmd_to_ecr(Global::PathApp, TILBRIDGE_DOWNLOAD, TILBRIDGE_FILE_PLU, resultCode,
                                                    plu_timeout, Global::ComPort);
   if (answer != 1) {
     memo_log("Send_PrgPluToEcr error using regwire");
     return false;
   }
-  if (resultCode == ResultCode::done) {
+  if (resultCode == TILBRIDGE_CODE_DONE) {
     Aspetta(Count_PluToSend(true) * seconds_for_each_item, "The register is taking in the changed items");
     Write_PrgPlu();
     return true;
   }
   memo_log("Send_PrgPluToEcr error. Code: " + hex_text(resultCode) + " Desc: " + description(resultCode));
   // A refusal leaves the tool running here too; the image's send does not end it.
-  if (resultCode == ResultCode::timeout || resultCode == ResultCode::refused) Process_Kill(exchange_tool);
+  if (resultCode == TILBRIDGE_CODE_TIMEOUT || resultCode == TILBRIDGE_CODE_REFUSED) Process_Kill(exchange_tool);
   return false;
 }
 
@@ -151,11 +151,11 @@ void copia_def_file() {
 bool read_files_from_register() {
   const BusyPointer busy;
   shell().let_screens_work();
-  Upload outcome = read_file_from_register(FileNumber::image, image_timeout);
+  Upload outcome = read_file_from_register(TILBRIDGE_FILE_IMAGE, image_timeout);
   if (outcome == Upload::done) {
     const std::string items = Global::PathDati + "PRG_PLU.BIN";
     if (file_exists(items)) static_cast<void>(delete_file(items));
-    outcome = read_file_from_register(FileNumber::plu, plu_timeout);
+    outcome = read_file_from_register(TILBRIDGE_FILE_PLU, plu_timeout);
   }
   // Where the tool could not be run the result code stays 0, and that is what counts.
   return outcome != Upload::refused;

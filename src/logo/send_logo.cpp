@@ -19,10 +19,6 @@ constexpr std::int32_t send_timeout = 60;
 /// The exchange tool finds the file a moment after it was copied.
 constexpr double seconds_behind_the_copy = 0.1;
 
-/// A conversion that went well ends with a code of this range, and never with 0.
-constexpr std::int32_t lowest_good_code = 0x1000000;
-constexpr std::int32_t highest_good_code = 0x1006464;
-
 bool convert(std::string& tool_folder, const std::string& bitmap_folder, const std::string& bitmap_name) {
   std::int32_t resultCode = 0;
   const std::int32_t answer =
@@ -32,7 +28,7 @@ bool convert(std::string& tool_folder, const std::string& bitmap_folder, const s
     memo_log("Send_PrgModeToEcr error using regpix");
     return false;
   }
-  if (resultCode < lowest_good_code || resultCode > highest_good_code) {
+  if (resultCode < TILBRIDGE_LOGO_CONVERTED_FIRST || resultCode > TILBRIDGE_LOGO_CONVERTED_LAST) {
     memo_log("Send_LogoToEcr conversion error. Code: " + hex_text(resultCode) +
              " Desc:" + std::string{NumToDesc_RegPix(resultCode)});
     return false;
@@ -42,16 +38,16 @@ bool convert(std::string& tool_folder, const std::string& bitmap_folder, const s
 
 bool send(std::string& tool_folder) {
   std::int32_t resultCode = 0;
-  const std::int32_t answer = util_send_cmd_to_ecr(tool_folder, Direction::download, FileNumber::logo, resultCode,
+  const std::int32_t answer = util_send_cmd_to_ecr(tool_folder, TILBRIDGE_DOWNLOAD, TILBRIDGE_FILE_LOGO, resultCode,
                                                    send_timeout, Global::ComPort);
   if (answer != 1) {
     memo_log("Send_LogoToEcr error using regwire");
     return false;
   }
-  if (resultCode != ResultCode::done) {
+  if (resultCode != TILBRIDGE_CODE_DONE) {
     memo_log("Send_LogoToEcr error. Code: " + hex_text(resultCode) +
              " Desc: " + std::string{NumToDesc_RegWire(resultCode)});
-    if (resultCode == ResultCode::timeout) Process_Kill(exchange_tool);
+    if (resultCode == TILBRIDGE_CODE_TIMEOUT) Process_Kill(exchange_tool);
     return false;
   }
   return true;

@@ -10,8 +10,8 @@
 #include "core/clock.h"
 #include "core/decimal.h"
 #include "core/run_log.h"
-#include "link/error_tables.h"
 #include "link/report_fetch.h"
+#include "link/tilbridge2.h"
 
 namespace ecr {
 namespace {
@@ -28,7 +28,7 @@ std::string seconds_text(double seconds) {
 
 CsvOutcome export_one(std::uint8_t number, std::int32_t lowest_quantity) {
   const double begun = now().second_of_day;
-  if (!Receive_ReportEcr(number, lowest_quantity)) return {};
+  if (!Receive_ReportEcr(number, {.first_record = lowest_quantity})) return {};
   CsvOutcome outcome = export_ReportEcr(number);
   double passed = now().second_of_day - begun;
   if (passed < 0) passed += seconds_of_a_day;
@@ -47,7 +47,7 @@ std::vector<CsvOutcome> export_reports(const std::vector<std::uint8_t>& numbers,
                                        const std::function<void(std::uint8_t)>& begins) {
   // Dealers look at the release that is left behind in this way.
   std::vector<std::uint8_t> all = numbers;
-  all.push_back(FileNumber::release);
+  all.push_back(TILBRIDGE_FILE_RELEASE);
   std::vector<CsvOutcome> unwritten;
   for (const std::uint8_t number : all) {
     begins(number);

@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "image/prg_plu.h"
+#include "link/tilbridge2.h"
 
 namespace ecr {
 namespace {
@@ -89,25 +90,25 @@ struct LayoutRow {
 };
 
 constinit const LayoutRow layouts[] = {
-    {3, fixed(1, drawer_size, drawer_columns)},
-    {4, fixed(1, financial_size, financial_columns)},
-    {5, fixed(99, department_size, department_columns)},
-    {6, fixed(1, department_size, department_columns)},
-    {7, fixed(plu_records, plu_size, plu_columns)},
-    {8, fixed(1, plu_size, {})},  // its file stays empty
-    {9, fixed(15, clerk_size, clerk_columns)},
-    {10, fixed(15, clerk_size, clerk_columns)},
-    {11, fixed(1, double_clerk_size, double_clerk_columns, double_clerk_header)},
-    {12, fixed(24, time_size, time_columns)},
-    {13, fixed(1, short_financial_size, short_financial_columns)},
-    {14, fixed(1, short_financial_size, short_financial_columns)},
-    {15, fixed(70, table_size, table_columns)},
-    {16, journal(full_journal_columns)},
-    {17, journal(journal_columns)},
-    {18, journal(journal_columns)},
-    {19, journal(journal_columns)},
-    {20, fixed(plu_records, stock_size, stock_columns)},
-    {21, {stock_size, RecordCount::by_size, 0, stock_columns}},
+    {TILBRIDGE_FILE_CASH_IN_DRAWER, fixed(1, drawer_size, drawer_columns)},
+    {TILBRIDGE_FILE_FINANCIAL, fixed(1, financial_size, financial_columns)},
+    {TILBRIDGE_FILE_DEPARTMENTS, fixed(99, department_size, department_columns)},
+    {TILBRIDGE_FILE_DEPARTMENT_GROUP, fixed(1, department_size, department_columns)},
+    {TILBRIDGE_FILE_ALL_PLU, fixed(plu_records, plu_size, plu_columns)},
+    {TILBRIDGE_FILE_PLU_RANGE, fixed(1, plu_size, {})},  // its file stays empty
+    {TILBRIDGE_FILE_CLERKS, fixed(15, clerk_size, clerk_columns)},
+    {TILBRIDGE_FILE_TRAINING_CLERKS, fixed(15, clerk_size, clerk_columns)},
+    {TILBRIDGE_FILE_BOTH_CLERKS, fixed(1, double_clerk_size, double_clerk_columns, double_clerk_header)},
+    {TILBRIDGE_FILE_TIME, fixed(24, time_size, time_columns)},
+    {TILBRIDGE_FILE_TRAINING, fixed(1, short_financial_size, short_financial_columns)},
+    {TILBRIDGE_FILE_FINANCIAL2, fixed(1, short_financial_size, short_financial_columns)},
+    {TILBRIDGE_FILE_OPEN_TABLES, fixed(70, table_size, table_columns)},
+    {TILBRIDGE_FILE_FULL_JOURNAL, journal(full_journal_columns)},
+    {TILBRIDGE_FILE_OLDEST_JOURNAL, journal(journal_columns)},
+    {TILBRIDGE_FILE_LATEST_JOURNAL, journal(journal_columns)},
+    {TILBRIDGE_FILE_DAILY_JOURNAL, journal(journal_columns)},
+    {TILBRIDGE_FILE_ALL_STOCK, fixed(plu_records, stock_size, stock_columns)},
+    {TILBRIDGE_FILE_STOCK_RANGE, {stock_size, RecordCount::by_size, 0, stock_columns}},
 };
 
 }  // namespace

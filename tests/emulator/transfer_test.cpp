@@ -8,9 +8,9 @@
 
 #include "emulator/emulated_register.h"
 #include "emulator/emulator_test.h"
-#include "emulator/tool_codes.h"
 #include "link/error_tables.h"
 #include "link/report_rows.h"
+#include "link/tilbridge2.h"
 
 namespace ecr::test {
 namespace {
@@ -204,22 +204,17 @@ TEST(EmulatedRegisterCodes, TellReadingFromOpening) {
 
 TEST(EmulatedRegisterCodes, AreAllKnownToTheProgram) {
   for (const std::int32_t code :
-       {ToolCode::illegal_direction, ToolCode::range_reversed, ToolCode::no_such_number, ToolCode::report_download,
-        ToolCode::port_not_opened, ToolCode::file_not_opened, ToolCode::file_not_read, ToolCode::file_not_made,
-        ToolCode::file_not_written, ToolCode::refused, ToolCode::timeout}) {
+       {TILBRIDGE_CODE_ILLEGAL_DIRECTION, TILBRIDGE_CODE_RANGE_REVERSED, TILBRIDGE_CODE_NO_SUCH_FILE_NUMBER,
+        TILBRIDGE_CODE_REPORT_DOWNLOAD, TILBRIDGE_CODE_PORT_NOT_OPENED, TILBRIDGE_CODE_FILE_NOT_OPENED,
+        TILBRIDGE_CODE_FILE_NOT_READ, TILBRIDGE_CODE_FILE_NOT_MADE, TILBRIDGE_CODE_FILE_NOT_WRITTEN,
+        TILBRIDGE_CODE_REFUSED, TILBRIDGE_CODE_TIMEOUT}) {
     EXPECT_NE(NumToDesc_RegWire(code), "No description") << code;
   }
   for (const std::int32_t code :
-       {PictureCode::missing_argument, PictureCode::not_opened, PictureCode::not_read, PictureCode::no_bitmap,
-        PictureCode::unknown_type, PictureCode::not_made, PictureCode::not_written, PictureCode::not_black_and_white,
-        PictureCode::too_many_dots}) {
+       {TILBRIDGE_LOGO_ILLEGAL_PARAMETER_COUNT, TILBRIDGE_LOGO_FILE_NOT_OPENED, TILBRIDGE_LOGO_FILE_NOT_READ,
+        TILBRIDGE_LOGO_NO_BITMAP, TILBRIDGE_LOGO_UNKNOWN_TYPE, TILBRIDGE_LOGO_FILE_NOT_MADE,
+        TILBRIDGE_LOGO_FILE_NOT_WRITTEN, TILBRIDGE_LOGO_NOT_BLACK_AND_WHITE, TILBRIDGE_LOGO_TOO_MANY_DOTS}) {
     EXPECT_NE(NumToDesc_RegPix(code), "No description") << code;
-  }
-}
-
-TEST(EmulatedRegisterCodes, NameTheReportsAsTheProgramDoes) {
-  for (std::size_t i = 0; i < report_file_names.size(); ++i) {
-    EXPECT_EQ(report_file_names.at(i), report_name(static_cast<std::uint8_t>(i + ToolFile::first_report)));
   }
 }
 

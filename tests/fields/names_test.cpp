@@ -8,7 +8,7 @@
 #include "core/codecs.h"
 #include "fields/book.h"
 #include "fields/caption_meanings.h"
-#include "image/side_files.h"
+#include "lang/language.h"
 #include "support/installation.h"
 
 namespace ecr::test {

@@ -4,7 +4,7 @@
 #include <set>
 #include <string>
 
-#include "image/side_files.h"
+#include "lang/language.h"
 #include "lang/language.h"
 
 namespace ecr::test {

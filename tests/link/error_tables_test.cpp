@@ -96,18 +96,5 @@ TEST(ErrorTables, CodesThatNoTableHoldsHaveNoDescription) {
   }
 }
 
-TEST(ErrorTables, FileNumbersAndResultCodesHaveTheirValues) {
-  EXPECT_EQ(FileNumber::image, 0);
-  EXPECT_EQ(FileNumber::plu, 1);
-  EXPECT_EQ(FileNumber::logo, 2);
-  EXPECT_EQ(FileNumber::time, 12);
-  EXPECT_EQ(FileNumber::release, 22);
-  EXPECT_EQ(ResultCode::done, 0);
-  EXPECT_EQ(ResultCode::port_not_opened, 1025);
-  EXPECT_EQ(ResultCode::busy, 4097);
-  EXPECT_EQ(ResultCode::refused, 4098);
-  EXPECT_EQ(ResultCode::timeout, 9999);
-}
-
 }  // namespace
 }  // namespace ecr::test

@@ -41,8 +41,8 @@ class LinkCalls : public InstallationTest {
 
 TEST_F(LinkCalls, CarryTheirArgumentsAsTheyAre) {
   FakeLink& fake = link();
-  send_cmd(Direction::upload, 0, 120);
-  send_cmd(Direction::download, 255, 60);
+  send_cmd(TILBRIDGE_UPLOAD, 0, 120);
+  send_cmd(TILBRIDGE_DOWNLOAD, 255, 60);
   Global::ComPort = 255;
   util_get_range_report(Global::PathApp, 21, code, 120, 0, 9999, Global::ComPort);
   util_send_logo_to_ecr(Global::PathApp, Global::PathDati, "logo.bmp", code, 60);
@@ -54,24 +54,24 @@ TEST_F(LinkCalls, CarryTheirArgumentsAsTheyAre) {
 
 TEST_F(LinkCalls, ClearTheResultCodeBeforeTheyAreMade) {
   link().answer = {0, 4097};
-  EXPECT_EQ(send_cmd(Direction::upload, 0), 0);
+  EXPECT_EQ(send_cmd(TILBRIDGE_UPLOAD, 0), 0);
   EXPECT_EQ(code, 0) << "a library that could not run its tool leaves no code";
   code = 77;
   link().answer = {1, 0};
-  EXPECT_EQ(send_cmd(Direction::upload, 0), 1);
+  EXPECT_EQ(send_cmd(TILBRIDGE_UPLOAD, 0), 1);
   EXPECT_EQ(code, 0);
 }
 
 TEST_F(LinkCalls, HandBackWhatTheLibraryAnswers) {
   for (const std::int32_t returned : {0, 1, 2, -1, 12345}) {
     link().answer = {returned, 0};
-    EXPECT_EQ(send_cmd(Direction::upload, 0), returned);
+    EXPECT_EQ(send_cmd(TILBRIDGE_UPLOAD, 0), returned);
     EXPECT_EQ(util_get_range_report(Global::PathApp, 5, code, 120, 1, 99, 4), returned);
     EXPECT_EQ(util_send_logo_to_ecr(Global::PathApp, "", "", code, 60), returned);
   }
   for (const std::int32_t result : {1, 1025, 4098, 9999, -7, 0x10040000}) {
     link().answer = {1, result};
-    send_cmd(Direction::upload, 0);
+    send_cmd(TILBRIDGE_UPLOAD, 0);
     EXPECT_EQ(code, result);
     util_get_range_report(Global::PathApp, 5, code, 120, 1, 99, 4);
     EXPECT_EQ(code, result);
@@ -82,7 +82,7 @@ TEST_F(LinkCalls, HandBackWhatTheLibraryAnswers) {
 
 TEST_F(LinkCalls, TakeTheFolderBackFromTheLibrary) {
   link().rewritten_folder = "/some/other/place/";
-  send_cmd(Direction::upload, 22, 3);
+  send_cmd(TILBRIDGE_UPLOAD, 22, 3);
   EXPECT_EQ(Global::PathApp, "\\some\\other\\place\\");
   EXPECT_EQ(Global::PathDati.find("some"), std::string::npos) << "the other folders are not built anew";
   std::string folder = "x\\";
@@ -108,18 +108,18 @@ TEST_F(LinkCalls, NameWhatIsGoingOn) {
     const char* what;
   };
   const Row rows[] = {
-      {Direction::upload, 0, "Reading the programming from the register"},
-      {Direction::download, 0, "Sending the programming to the register"},
-      {Direction::upload, 1, "Reading the items from the register"},
-      {Direction::download, 1, "Sending the items to the register"},
-      {Direction::download, 2, "Sending the logo to the register"},
-      {Direction::upload, 12, "Looking for the register"},
-      {Direction::upload, 22, "Asking the register for its release"},
-      {Direction::upload, 3, "Reading the report C-I-D"},
-      {Direction::upload, 20, "Reading the report ASK"},
-      {Direction::upload, 24, "Reading the report "},
-      {Direction::upload, 25, "Reading the report "},
-      {Direction::upload, 255, "Reading the report "},
+      {TILBRIDGE_UPLOAD, 0, "Reading the programming from the register"},
+      {TILBRIDGE_DOWNLOAD, 0, "Sending the programming to the register"},
+      {TILBRIDGE_UPLOAD, 1, "Reading the items from the register"},
+      {TILBRIDGE_DOWNLOAD, 1, "Sending the items to the register"},
+      {TILBRIDGE_DOWNLOAD, 2, "Sending the logo to the register"},
+      {TILBRIDGE_UPLOAD, 12, "Looking for the register"},
+      {TILBRIDGE_UPLOAD, 22, "Asking the register for its release"},
+      {TILBRIDGE_UPLOAD, 3, "Reading the report C-I-D"},
+      {TILBRIDGE_UPLOAD, 20, "Reading the report ASK"},
+      {TILBRIDGE_UPLOAD, 24, "Reading the report "},
+      {TILBRIDGE_UPLOAD, 25, "Reading the report "},
+      {TILBRIDGE_UPLOAD, 255, "Reading the report "},
   };
   link();
   for (const Row& row : rows) {
@@ -137,8 +137,8 @@ TEST_F(LinkCalls, NameWhatIsGoingOn) {
 TEST_F(LinkCalls, NameWhatIsGoingOnInWordsThatEveryLanguageKnows) {
   link();
   for (int file = 0; file < 256; ++file) {
-    send_cmd(Direction::upload, static_cast<std::uint8_t>(file));
-    send_cmd(Direction::download, static_cast<std::uint8_t>(file));
+    send_cmd(TILBRIDGE_UPLOAD, static_cast<std::uint8_t>(file));
+    send_cmd(TILBRIDGE_DOWNLOAD, static_cast<std::uint8_t>(file));
   }
   util_send_logo_to_ecr(Global::PathApp, "", "", code, 60);
   ASSERT_EQ(shell.waits.size(), 513U);
@@ -148,17 +148,17 @@ TEST_F(LinkCalls, NameWhatIsGoingOnInWordsThatEveryLanguageKnows) {
 
 TEST_F(LinkCalls, TakeNoInputUnlessTheyAreMadeInTheBackground) {
   link();
-  send_cmd(Direction::upload, 12, 2);
+  send_cmd(TILBRIDGE_UPLOAD, 12, 2);
   {
     const BackgroundCalls outer;
-    send_cmd(Direction::upload, 12, 2);
+    send_cmd(TILBRIDGE_UPLOAD, 12, 2);
     {
       const BackgroundCalls inner;
-      send_cmd(Direction::upload, 12, 2);
+      send_cmd(TILBRIDGE_UPLOAD, 12, 2);
     }
-    send_cmd(Direction::upload, 12, 2);
+    send_cmd(TILBRIDGE_UPLOAD, 12, 2);
   }
-  send_cmd(Direction::upload, 12, 2);
+  send_cmd(TILBRIDGE_UPLOAD, 12, 2);
   EXPECT_EQ(shell.waiting_kinds, (std::vector<Waiting>{Waiting::modal, Waiting::background, Waiting::background,
                                                        Waiting::background, Waiting::modal}));
 }
@@ -167,7 +167,7 @@ TEST_F(LinkCalls, AreInFlightUntilTheLibraryReturns) {
   std::vector<bool> in_flight;
   link().after_call = [&in_flight] { in_flight.push_back(link_call_in_flight()); };
   EXPECT_FALSE(link_call_in_flight());
-  send_cmd(Direction::upload, 0);
+  send_cmd(TILBRIDGE_UPLOAD, 0);
   EXPECT_FALSE(link_call_in_flight());
   EXPECT_EQ(in_flight, std::vector<bool>{true});
 }
@@ -184,7 +184,7 @@ TEST_F(LinkCalls, RunBesideTheScreenThreadWhileTheScreensWork) {
     const int at_first = turns;
     while (turns < at_first + 3) std::this_thread::yield();
   };
-  EXPECT_EQ(send_cmd(Direction::upload, 0), 1);
+  EXPECT_EQ(send_cmd(TILBRIDGE_UPLOAD, 0), 1);
   EXPECT_NE(ran_on, std::this_thread::get_id());
   EXPECT_NE(ran_on, std::thread::id{});
   EXPECT_GE(turns, 3);
@@ -240,13 +240,13 @@ TEST_F(LinkCalls, MadeByAHandlerDuringAnotherWaitForItsEnd) {
       // The handler of a button, pressed while the first call is on its way.
       handler_ran = true;
       EXPECT_TRUE(link_call_in_flight());
-      EXPECT_EQ(util_send_cmd_to_ecr(Global::PathApp, Direction::upload, 22, code_of_second, 3, 4), 1);
+      EXPECT_EQ(util_send_cmd_to_ecr(Global::PathApp, TILBRIDGE_UPLOAD, 22, code_of_second, 3, 4), 1);
     } else if (!holding.let_go && ++turns_of_the_wait == 3) {
       EXPECT_NE(holding.noted(), (Lines{"in 12", "in 22"})) << "two calls at a time";
       holding.let_go = true;
     }
   };
-  EXPECT_EQ(send_cmd(Direction::upload, 12, 2), 1);
+  EXPECT_EQ(send_cmd(TILBRIDGE_UPLOAD, 12, 2), 1);
   EXPECT_TRUE(handler_ran);
   EXPECT_EQ(holding.noted(), (Lines{"in 12", "out 12", "in 22", "out 22"}));
   EXPECT_EQ(code, 1012);
@@ -271,7 +271,7 @@ class LoadedLink : public InstallationTest {
   }
 
   std::int32_t send_cmd() {
-    return util_send_cmd_to_ecr(Global::PathApp, Direction::download, 1, code, 180, Global::ComPort);
+    return util_send_cmd_to_ecr(Global::PathApp, TILBRIDGE_DOWNLOAD, 1, code, 180, Global::ComPort);
   }
   std::int32_t range_report() { return util_get_range_report(Global::PathApp, 5, code, 120, 1, 99, Global::ComPort); }
   std::int32_t send_logo() { return util_send_logo_to_ecr(Global::PathApp, Global::PathDati, "logo.bmp", code, 60); }

@@ -51,7 +51,7 @@ TEST_F(ReportFetch, Report5AsksForItsWholeRange) {
 TEST_F(ReportFetch, Report21AsksFromTheRecordThatItIsGiven) {
   for (const std::int32_t first : {0, 17, 9999, 123456, std::numeric_limits<std::int32_t>::max()}) {
     link().calls.clear();
-    EXPECT_TRUE(Receive_ReportEcr(21, first));
+    EXPECT_TRUE(Receive_ReportEcr(21, {.first_record = first}));
     EXPECT_EQ(link().calls,
               Lines{"range_report folder=. file=21 timeout=120 from=" + std::to_string(first) + " to=9999 port=4"});
   }
@@ -62,8 +62,8 @@ TEST_F(ReportFetch, Report21AsksFromTheRecordThatItIsGiven) {
 
 TEST_F(ReportFetch, NoOtherReportTakesTheRecordThatItIsGiven) {
   link();
-  EXPECT_TRUE(Receive_ReportEcr(5, 17));
-  EXPECT_TRUE(Receive_ReportEcr(20, 17));
+  EXPECT_TRUE(Receive_ReportEcr(5, {.first_record = 17}));
+  EXPECT_TRUE(Receive_ReportEcr(20, {.first_record = 17}));
   EXPECT_EQ(link().calls, (Lines{"range_report folder=. file=5 timeout=120 from=1 to=99 port=4", fetch_call(20, 60)}));
 }
 
@@ -234,7 +234,7 @@ TEST_F(ReportFetch, AFetchThatSkipsTheLogTellsOfNothingThatWentWrong) {
     write("Dati/TIME.bin", "older");
     link().answer = answer;
     system.ended.clear();
-    EXPECT_EQ(Receive_ReportEcr(12, 0, true), answer.returned == 1 && answer.result_code == 0);
+    EXPECT_EQ(Receive_ReportEcr(12, {.skip_log = true}), answer.returned == 1 && answer.result_code == 0);
     EXPECT_EQ(system.ended.size(), answer.result_code == 9999 ? 1U : 0U) << "the hanging tool is ended as ever";
     system.running = {{51, "regwire.exe"}};
   }

@@ -23,7 +23,7 @@ std::int32_t FakeLink::send_cmd(std::string& folder, std::uint8_t direction, std
   calls.push_back("send_cmd folder=" + relative(folder) + " direction=" + std::to_string(direction) + " file=" +
                   std::to_string(fileNumber) + " timeout=" + std::to_string(timeout) + " port=" + std::to_string(port));
   const LinkAnswer given = answer_for(fileNumber, port);
-  if (direction == Direction::upload) {
+  if (direction == TILBRIDGE_UPLOAD) {
     deliver(fileNumber, given, folder);
   } else {
     const std::string name = fileNumber == 0 ? "PRG_MODE.BIN" : fileNumber == 1 ? "PRG_PLU.BIN" : "GRAPHIC.BIN";
