@@ -9,10 +9,10 @@
 #include "core/run_log.h"
 #include "core/shell.h"
 #include "core/text.h"
-#include "link/error_tables.h"
-#include "link/library.h"
+#include "link/link_call.h"
 #include "link/process.h"
 #include "link/report_fetch.h"
+#include "link/tilbridge2.h"
 
 namespace ecr {
 namespace {
@@ -39,18 +39,7 @@ bool Get_Release() {
   for (const std::string& file : {older_release_file(), release_file()}) {
     if (file_exists(file)) static_cast<void>(delete_file(file));
   }
-  std::int32_t resultCode = 0;
-  const std::int32_t answer =
-      util_send_cmd_to_ecr(Global::PathApp, TILBRIDGE_UPLOAD, TILBRIDGE_FILE_RELEASE, resultCode, 3, Global::ComPort);
-  if (answer != 1) {
-    // The words of the report fetch are this line's own.
-    memo_log("Receive_ReportEcr error using regwire");
-    return false;
-  }
-  if (resultCode == TILBRIDGE_CODE_DONE) return true;
-  memo_log("Get_Release error. Code: " + hex_text(resultCode) + " Desc: " + std::string{NumToDesc_RegWire(resultCode)});
-  if (resultCode == TILBRIDGE_CODE_TIMEOUT) Process_Kill(exchange_tool);
-  return false;
+  return move_file(LinkCall::read_release, Global::PathApp).is_done();
 }
 
 bool Read_release_fw() {

@@ -1,14 +1,13 @@
 #include "link/report_fetch.h"
 
+#include <string>
 #include <vector>
 
 #include "core/files.h"
 #include "core/global.h"
 #include "core/run_log.h"
-#include "core/text.h"
-#include "link/error_tables.h"
 #include "link/library.h"
-#include "link/process.h"
+#include "link/link_call.h"
 #include "link/report_rows.h"
 
 namespace ecr {
@@ -31,27 +30,20 @@ bool Receive_ReportEcr(std::uint8_t number, const ReportFetch& fetch) {
   if (report == nullptr) return false;
   const Fault pending = displace_older(report->name);
 
-  std::int32_t resultCode = 0;
-  std::int32_t answer = 0;
-  if (const auto& range = report->range) {
-    answer =
-        util_get_range_report(Global::PathApp, number, resultCode, report->timeout,
-                              range->first_is_typed ? fetch.first_record : range->first, range->last, Global::ComPort);
-  } else {
-    answer =
-        util_send_cmd_to_ecr(Global::PathApp, TILBRIDGE_UPLOAD, number, resultCode, report->timeout, Global::ComPort);
-  }
-
-  const bool delivered = answer == 1 && resultCode == TILBRIDGE_CODE_DONE;
-  if (answer == 1 && !report->range && resultCode == TILBRIDGE_CODE_TIMEOUT) Process_Kill(exchange_tool);
-  if (fetch.skip_log) return delivered;
-  if (answer != 1) {
-    memo_log("Receive_ReportEcr error using regwire");
-  } else if (!delivered) {
-    memo_log("Receive_ReportEcr error. File " + std::to_string(number) + " Code: " + hex_text(resultCode) +
-             " Desc: " + std::string{NumToDesc_RegWire(resultCode)});
-  }
-  if (pending.stands()) log_fault("Receive_ReportEcr " + std::to_string(number) + ": ", pending);
+  const auto& range = report->range;
+  const auto ask = [&](std::int32_t& resultCode) {
+    if (!range) {
+      return util_send_cmd_to_ecr(Global::PathApp, TILBRIDGE_UPLOAD, number, resultCode, report->timeout,
+                                  Global::ComPort);
+    }
+    const std::int32_t first = range->first_is_typed ? fetch.first_record : range->first;
+    return util_get_range_report(Global::PathApp, number, resultCode, report->timeout, first, range->last,
+                                 Global::ComPort);
+  };
+  const LinkCall call = range ? LinkCall::read_report_range : LinkCall::read_report;
+  const CallLog log = fetch.skip_log ? CallLog::nothing : CallLog::failures;
+  const bool delivered = make_link_call(call, number, ask, {}, log).is_done();
+  if (pending.stands() && !fetch.skip_log) log_fault("Receive_ReportEcr " + std::to_string(number) + ": ", pending);
   return delivered;
 }
 
