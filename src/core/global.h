@@ -21,7 +21,7 @@ extern std::string PathFW;          ///< "FW\": kept, nothing uses it
 extern std::string PathModel;       ///< "Dati\ECRZ300\" or "Dati\ECRZ320\", set when a model is chosen
 
 extern bool DebugMode;              ///< the command line is exactly DEBUG
-extern std::uint8_t ComPort;        ///< serial port of all register traffic, 0 = none found
+extern std::uint8_t ComPort;        ///< serial port of all register traffic, 0 = none; written by use_port alone
 extern std::uint8_t EcrModel;       ///< model_z300 or model_z320
 extern std::int16_t MaxPlu;         ///< 3000 on both models, set when a model is chosen
 extern std::uint8_t FwLevel;        ///< class of the linked firmware, see link/firmware.h

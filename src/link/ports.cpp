@@ -95,12 +95,16 @@ std::vector<std::string> device_captions() {
   return captions;
 }
 
+void use_port(std::uint8_t port) noexcept {
+  Global::ComPort = port;
+}
+
 bool Test_Com(bool skipLog, const std::function<bool()>& given_up) {
   const BackgroundCalls background;
   bool found = false;
   const auto over = [&given_up] { return given_up && given_up(); };
   const auto walk = [&] {
-    Global::ComPort = 0;
+    use_port(0);
     show_number(0);
     std::vector<std::string> captions;
     // Some systems take their time over the list.
@@ -110,7 +114,7 @@ bool Test_Com(bool skipLog, const std::function<bool()>& given_up) {
     for (const std::uint8_t port : ports.numbers) {
       if (over()) return;
       show_test({port, ++nth, static_cast<int>(ports.numbers.size())});
-      Global::ComPort = port;
+      use_port(port);
       found = Test_Connection(skipLog) && !over();
       if (found) {
         show_number(port);
@@ -120,7 +124,7 @@ bool Test_Com(bool skipLog, const std::function<bool()>& given_up) {
       }
       show_colour(PortColour::red);
       debug_log(port, " KO");
-      Global::ComPort = 0;
+      use_port(0);
     }
     if (ports.end.stands() && !over()) throw FaultError{ports.end};
   };

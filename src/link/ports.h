@@ -29,6 +29,9 @@ struct PortDisplay {
 };
 void show_ports_on(PortDisplay display);
 
+/// All register traffic goes over this port from now on; 0 is none. The one writer of Global::ComPort.
+void use_port(std::uint8_t port) noexcept;
+
 /// Walks the devices whose caption names a COM port and tests the connection on each; the first that answers becomes
 /// Global::ComPort. Answers whether one did. A caption whose number is none, or above 255, ends the walk. The screens
 /// stay open to input meanwhile. Once `given_up` answers true, which is asked before and after each test, the walk is

@@ -92,11 +92,11 @@ FrmPrincipale::~FrmPrincipale() {
 
 void FrmPrincipale::load() {
   frame_.load_band();
-  Global::ComPort = 1;
+  use_port(1);
   guarded("FrmPrincipale Form_load: ", [this] {
     const Decimal port = value_of(port_text_);
     if (port > Decimal{255}) throw FaultError{FaultCode::overflow};
-    if (port > Decimal{0}) Global::ComPort = static_cast<std::uint8_t>(leading_number(port.text()));
+    if (port > Decimal{0}) use_port(static_cast<std::uint8_t>(leading_number(port.text())));
   });
   captions_.lay();
   if (chosen_model().number == Global::EcrModel) {

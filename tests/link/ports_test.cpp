@@ -51,6 +51,13 @@ class PortWalk : public InstallationTest {
   FakeSystem system;
 };
 
+TEST_F(PortWalk, APortIsUsedFromThenOn) {
+  for (const int port : {7, 255, 0}) {
+    use_port(static_cast<std::uint8_t>(port));
+    EXPECT_EQ(Global::ComPort, port);
+  }
+}
+
 TEST_F(PortWalk, TheRegistersPortIsFoundAndShownInGreen) {
   devices({"USB Serial Port (COM4)"});
   EXPECT_TRUE(Test_Com(false));
