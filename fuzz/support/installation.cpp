@@ -60,11 +60,11 @@ void QuietShell::let_screens_work() {
   if (moment.second_of_day >= 86400) moment.second_of_day -= 86400;
 }
 
-void QuietShell::run_beside(std::string_view, Waiting, const std::function<void()>& job) {
+void QuietShell::run_beside(const WorkInHand&, Waiting, const std::function<void()>& job) {
   job();
 }
 
-void QuietShell::wait_until(std::string_view, double, const std::function<bool()>& done) {
+void QuietShell::wait_until(const WorkInHand&, double, const std::function<bool()>& done) {
   while (!done()) let_screens_work();
 }
 

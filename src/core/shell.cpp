@@ -15,8 +15,8 @@ class BareShell final : public Shell {
   }
   void let_screens_work() override { std::this_thread::sleep_for(std::chrono::milliseconds(1)); }
   void pointer(Pointer) override {}
-  void run_beside(std::string_view, Waiting, const std::function<void()>& job) override { job(); }
-  void wait_until(std::string_view, double, const std::function<bool()>& done) override {
+  void run_beside(const WorkInHand&, Waiting, const std::function<void()>& job) override { job(); }
+  void wait_until(const WorkInHand&, double, const std::function<bool()>& done) override {
     while (!done()) let_screens_work();
   }
   [[noreturn]] void end_program() override { std::_Exit(0); }

@@ -10,6 +10,8 @@
 #include <functional>
 #include <string_view>
 
+#include "core/work.h"
+
 namespace ecr {
 
 enum class BoxKind { plain, information, question, warning, critical };
@@ -39,10 +41,10 @@ class Shell {
   virtual void pointer(Pointer pointer) = 0;
 
   /// Runs `job` beside the screen thread and returns when it is done. `what` names it for the person.
-  virtual void run_beside(std::string_view what, Waiting waiting, const std::function<void()>& job) = 0;
+  virtual void run_beside(const WorkInHand& what, Waiting waiting, const std::function<void()>& job) = 0;
 
   /// Holds the screens for `seconds`, painted and alive, until `done` answers true. `what` names it for the person.
-  virtual void wait_until(std::string_view what, double seconds, const std::function<bool()>& done) = 0;
+  virtual void wait_until(const WorkInHand& what, double seconds, const std::function<bool()>& done) = 0;
 
   /// Ends the process at once with exit status 0: nothing of the caller runs on, nothing more is written.
   [[noreturn]] virtual void end_program() = 0;

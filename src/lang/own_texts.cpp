@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <optional>
 #include <tuple>
 
 #include "core/code_page.h"
@@ -349,6 +350,36 @@ constexpr bool is_narrow() {
 }
 static_assert(is_narrow(), "own_bytes reads letters of one or two bytes");
 
+std::optional<OwnText> words_of(Work work) {
+  switch (work) {
+    case Work::unnamed:
+      return std::nullopt;
+    case Work::looking_for_ports:
+      return OwnText::looking_for_ports;
+    case Work::looking_for_register:
+      return OwnText::looking_for_register;
+    case Work::asking_release:
+      return OwnText::asking_release;
+    case Work::reading_programming:
+      return OwnText::reading_programming;
+    case Work::sending_programming:
+      return OwnText::sending_programming;
+    case Work::reading_items:
+      return OwnText::reading_items;
+    case Work::sending_items:
+      return OwnText::sending_items;
+    case Work::taking_in_items:
+      return OwnText::taking_in_items;
+    case Work::reading_report:
+      return OwnText::reading_report;
+    case Work::converting_logo:
+      return OwnText::converting_logo;
+    case Work::sending_logo:
+      return OwnText::sending_logo;
+  }
+  return std::nullopt;
+}
+
 }  // namespace
 
 std::string_view own_text(OwnText text) {
@@ -374,18 +405,9 @@ std::string own_bytes(OwnText text, std::string_view first) {
   return bytes;
 }
 
-std::string own_bytes_of_work(std::string_view english) {
-  constexpr auto first = static_cast<std::size_t>(OwnText::reading_programming);
-  constexpr auto last = static_cast<std::size_t>(OwnText::reading_report);
-  for (std::size_t i = first; i <= last; ++i) {
-    const std::string_view pattern = rows[i].in.front();
-    const std::string_view words = pattern.substr(0, pattern.find(place_of_first));
-    const bool is_whole = words.size() == pattern.size();
-    if (is_whole ? english == words : english.starts_with(words)) {
-      return own_bytes(rows[i].text, english.substr(words.size()));
-    }
-  }
-  return std::string{english};
+std::string own_bytes_of_work(const WorkInHand& what) {
+  const std::optional<OwnText> words = words_of(what.work);
+  return words ? own_bytes(*words, what.name) : std::string{};
 }
 
 }  // namespace ecr

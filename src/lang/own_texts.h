@@ -9,6 +9,8 @@
 #include <string>
 #include <string_view>
 
+#include "core/work.h"
+
 namespace ecr {
 
 enum class OwnText : std::uint8_t {
@@ -138,8 +140,7 @@ inline constexpr std::size_t own_text_count = static_cast<std::size_t>(OwnText::
 /// The same, as bytes of the code page, which has every letter of these texts; `first` stands in place of %1.
 [[nodiscard]] std::string own_bytes(OwnText text, std::string_view first = "%1");
 
-/// What goes on during a wait, in the chosen language, as bytes of the code page. The rooms below name it in English;
-/// words that are none of these texts stay as they are.
-[[nodiscard]] std::string own_bytes_of_work(std::string_view english);
+/// What goes on during a wait, in the chosen language, as bytes of the code page; empty for unnamed work.
+[[nodiscard]] std::string own_bytes_of_work(const WorkInHand& what);
 
 }  // namespace ecr

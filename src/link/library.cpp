@@ -112,7 +112,7 @@ LinkLibrary* library() {
 /// Makes one call beside the screen thread, after any that is still on its way. `folder` crosses in the host's form.
 /// A handler that the screens run during one call may come here with another: the first is over when its job is, not
 /// when its own run_beside returns, which stands below the handler and cannot return before it.
-std::int32_t call_beside(std::string_view what, std::string& folder, std::int32_t& resultCode,
+std::int32_t call_beside(const WorkInHand& what, std::string& folder, std::int32_t& resultCode,
                          const std::function<std::int32_t(LinkLibrary&, std::string&)>& call) {
   while (in_flight) shell().let_screens_work();
   resultCode = 0;
@@ -129,21 +129,21 @@ std::int32_t call_beside(std::string_view what, std::string& folder, std::int32_
   return answer;
 }
 
-std::string what_moves(std::uint8_t direction, std::uint8_t fileNumber) {
+WorkInHand work_of(std::uint8_t direction, std::uint8_t fileNumber) {
   const bool up = direction == TILBRIDGE_UPLOAD;
   switch (fileNumber) {
     case TILBRIDGE_FILE_IMAGE:
-      return up ? "Reading the programming from the register" : "Sending the programming to the register";
+      return {up ? Work::reading_programming : Work::sending_programming};
     case TILBRIDGE_FILE_PLU:
-      return up ? "Reading the items from the register" : "Sending the items to the register";
+      return {up ? Work::reading_items : Work::sending_items};
     case TILBRIDGE_FILE_LOGO:
-      return "Sending the logo to the register";
+      return {Work::sending_logo};
     case TILBRIDGE_FILE_TIME:
-      return "Looking for the register";
+      return {Work::looking_for_register};
     case TILBRIDGE_FILE_RELEASE:
-      return "Asking the register for its release";
+      return {Work::asking_release};
     default:
-      return "Reading the report " + std::string{report_name(fileNumber)};
+      return {Work::reading_report, report_name(fileNumber)};
   }
 }
 
@@ -151,7 +151,7 @@ std::string what_moves(std::uint8_t direction, std::uint8_t fileNumber) {
 
 std::int32_t util_send_cmd_to_ecr(std::string& folder, std::uint8_t direction, std::uint8_t fileNumber,
                                   std::int32_t& resultCode, std::int32_t timeout, std::uint8_t port) {
-  return call_beside(what_moves(direction, fileNumber), folder, resultCode, [&](LinkLibrary& link, std::string& host) {
+  return call_beside(work_of(direction, fileNumber), folder, resultCode, [&](LinkLibrary& link, std::string& host) {
     return link.send_cmd(host, direction, fileNumber, resultCode, timeout, port);
   });
 }
@@ -159,7 +159,7 @@ std::int32_t util_send_cmd_to_ecr(std::string& folder, std::uint8_t direction, s
 std::int32_t util_get_range_report(std::string& folder, std::uint8_t fileNumber, std::int32_t& resultCode,
                                    std::int32_t timeout, std::int32_t rangeFrom, std::int32_t rangeTo,
                                    std::uint8_t port) {
-  return call_beside(what_moves(TILBRIDGE_UPLOAD, fileNumber), folder, resultCode,
+  return call_beside(work_of(TILBRIDGE_UPLOAD, fileNumber), folder, resultCode,
                      [&](LinkLibrary& link, std::string& host) {
                        return link.range_report(host, fileNumber, resultCode, timeout, rangeFrom, rangeTo, port);
                      });
@@ -167,7 +167,7 @@ std::int32_t util_get_range_report(std::string& folder, std::uint8_t fileNumber,
 
 std::int32_t util_send_logo_to_ecr(std::string& source, const std::string& target1, const std::string& target2,
                                    std::int32_t& resultCode, std::int32_t timeout) {
-  return call_beside("Converting the logo", source, resultCode, [&](LinkLibrary& link, std::string& host) {
+  return call_beside({Work::converting_logo}, source, resultCode, [&](LinkLibrary& link, std::string& host) {
     return link.send_logo(host, host_path(target1), target2, resultCode, timeout);
   });
 }

@@ -108,7 +108,7 @@ bool Test_Com(bool skipLog, const std::function<bool()>& given_up) {
     show_number(0);
     std::vector<std::string> captions;
     // Some systems take their time over the list.
-    shell().run_beside("Looking for serial ports", Waiting::background, [&] { captions = device_captions(); });
+    shell().run_beside({Work::looking_for_ports}, Waiting::background, [&] { captions = device_captions(); });
     const PortList ports = ports_in(captions);
     int nth = 0;
     for (const std::uint8_t port : ports.numbers) {

@@ -42,9 +42,9 @@ void Process_Wait(std::string_view name) {
   }
 }
 
-void Aspetta(double seconds, std::string_view what) {
+void Aspetta(double seconds, Work what) {
   const double start = now().second_of_day;
-  shell().wait_until(what, seconds, [start, seconds] {
+  shell().wait_until({what}, seconds, [start, seconds] {
     const double elapsed = now().second_of_day - start;
     return elapsed < 0 || elapsed >= seconds;
   });

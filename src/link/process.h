@@ -6,6 +6,8 @@
 
 #include <string_view>
 
+#include "core/work.h"
+
 namespace ecr {
 
 /// The executable of the exchange tool, which a timed-out call leaves running.
@@ -21,6 +23,6 @@ void Process_Wait(std::string_view name);
 
 /// Lets `seconds` pass while the screens stay alive; midnight ends the wait. `what` tells the person what is waited
 /// for.
-void Aspetta(double seconds, std::string_view what = {});
+void Aspetta(double seconds, Work what = Work::unnamed);
 
 }  // namespace ecr

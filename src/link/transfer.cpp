@@ -71,7 +71,7 @@ bool Send_PrgModeToEcr(const bool& sendPlu, const bool& skipMerge) {
 bool Send_PrgPluToEcr() {
   check_link_or_end();
   if (!move_file(LinkCall::send_items, Global::PathApp).is_done()) return false;
-  Aspetta(Count_PluToSend(true) * seconds_for_each_item, "The register is taking in the changed items");
+  Aspetta(Count_PluToSend(true) * seconds_for_each_item, Work::taking_in_items);
   Write_PrgPlu();
   return true;
 }

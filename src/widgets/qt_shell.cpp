@@ -106,7 +106,7 @@ void QtShell::pointer(Pointer pointer) {
   }
 }
 
-void QtShell::run_beside(std::string_view what, Waiting waiting, const std::function<void()>& job) {
+void QtShell::run_beside(const WorkInHand& what, Waiting waiting, const std::function<void()>& job) {
   std::unique_ptr<WaitPanel> panel;
   if (waiting == Waiting::modal) panel = std::make_unique<WaitPanel>(window_, screen_text(own_bytes_of_work(what)), 0);
   QEventLoop loop;
@@ -121,7 +121,7 @@ void QtShell::run_beside(std::string_view what, Waiting waiting, const std::func
   worker.join();
 }
 
-void QtShell::wait_until(std::string_view what, double seconds, const std::function<bool()>& done) {
+void QtShell::wait_until(const WorkInHand& what, double seconds, const std::function<bool()>& done) {
   QCoreApplication::processEvents();
   if (done()) return;
   const WaitPanel panel{window_, screen_text(own_bytes_of_work(what)), seconds};

@@ -21,8 +21,8 @@ class QtShell final : public Shell {
   Answer box(BoxKind kind, BoxButtons buttons, std::string_view text, std::string_view title) override;
   void let_screens_work() override;
   void pointer(Pointer pointer) override;
-  void run_beside(std::string_view what, Waiting waiting, const std::function<void()>& job) override;
-  void wait_until(std::string_view what, double seconds, const std::function<bool()>& done) override;
+  void run_beside(const WorkInHand& what, Waiting waiting, const std::function<void()>& job) override;
+  void wait_until(const WorkInHand& what, double seconds, const std::function<bool()>& done) override;
   [[noreturn]] void end_program() override;
 
  private:

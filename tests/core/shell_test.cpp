@@ -28,13 +28,13 @@ TEST_F(BareShell, AnswersOkOrNo) {
 
 TEST_F(BareShell, RunsAJobOnTheCallingThreadAndReturnsBehindIt) {
   std::thread::id ran_on;
-  shell().run_beside("a job", Waiting::modal, [&ran_on] { ran_on = std::this_thread::get_id(); });
+  shell().run_beside({}, Waiting::modal, [&ran_on] { ran_on = std::this_thread::get_id(); });
   EXPECT_EQ(ran_on, std::this_thread::get_id());
 }
 
 TEST_F(BareShell, WaitsUntilItIsTold) {
   int asked = 0;
-  shell().wait_until("a wait", 0.1, [&asked] { return ++asked == 3; });
+  shell().wait_until({}, 0.1, [&asked] { return ++asked == 3; });
   EXPECT_EQ(asked, 3);
 }
 

@@ -5,7 +5,6 @@
 #include <string>
 
 #include "lang/language.h"
-#include "lang/language.h"
 
 namespace ecr::test {
 namespace {
@@ -14,7 +13,7 @@ using namespace fields;
 
 class RefusalTest : public ::testing::Test {
  protected:
-  ~RefusalTest() override { reset_side_files(); }
+  ~RefusalTest() override { reset_language(); }
 };
 
 TEST_F(RefusalTest, HasWordsWithWhatItIsAbout) {

@@ -91,14 +91,39 @@ TEST_F(OwnTexts, TheCodePageHasEveryLetter) {
 }
 
 TEST_F(OwnTexts, WhatGoesOnIsNamedInTheChosenLanguage) {
-  const std::string english = "Reading the report C-I-D";
-  EXPECT_EQ(own_bytes_of_work(english), english);
-  LanguageNumber = 3;
-  EXPECT_EQ(own_bytes_of_work(english), "Der Bericht C-I-D wird gelesen");
-  EXPECT_EQ(own_bytes_of_work("Looking for the register"), "Die Kasse wird gesucht");
-  EXPECT_EQ(own_bytes_of_work("Looking for the register now"), "Looking for the register now");
-  EXPECT_EQ(own_bytes_of_work("Report"), "Report") << "a word of another place";
-  EXPECT_EQ(own_bytes_of_work(""), "");
+  struct Row {
+    WorkInHand what;
+    const char* english;
+    const char* german;
+  };
+  const Row works[] = {
+      {{}, "", ""},
+      {{Work::looking_for_ports}, "Looking for serial ports", "Serielle Anschl\xFCsse werden gesucht"},
+      {{Work::looking_for_register}, "Looking for the register", "Die Kasse wird gesucht"},
+      {{Work::asking_release}, "Asking the register for its release", "Die Kasse wird nach ihrer Version gefragt"},
+      {{Work::reading_programming},
+       "Reading the programming from the register",
+       "Die Programmierung wird aus der Kasse gelesen"},
+      {{Work::sending_programming},
+       "Sending the programming to the register",
+       "Die Programmierung wird an die Kasse gesendet"},
+      {{Work::reading_items}, "Reading the items from the register", "Die Artikel werden aus der Kasse gelesen"},
+      {{Work::sending_items}, "Sending the items to the register", "Die Artikel werden an die Kasse gesendet"},
+      {{Work::taking_in_items},
+       "The register is taking in the changed items",
+       "Die Kasse \xFC"
+       "bernimmt die ge\xE4nderten Artikel"},
+      {{Work::reading_report, "C-I-D"}, "Reading the report C-I-D", "Der Bericht C-I-D wird gelesen"},
+      {{Work::reading_report}, "Reading the report ", "Der Bericht  wird gelesen"},
+      {{Work::converting_logo}, "Converting the logo", "Das Logo wird umgewandelt"},
+      {{Work::sending_logo}, "Sending the logo to the register", "Das Logo wird an die Kasse gesendet"},
+  };
+  for (const Row& row : works) {
+    LanguageNumber = 0;
+    EXPECT_EQ(own_bytes_of_work(row.what), row.english);
+    LanguageNumber = 3;
+    EXPECT_EQ(own_bytes_of_work(row.what), row.german);
+  }
 }
 
 TEST_F(OwnTexts, BytesTakeWhatGoesIntoThem) {

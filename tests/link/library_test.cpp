@@ -13,8 +13,6 @@
 #include "core/files.h"
 #include "core/global.h"
 #include "core/text.h"
-#include "lang/language.h"
-#include "lang/own_texts.h"
 #include "link/tilbridge2.h"
 #include "platform/platform.h"
 #include "support/fake_system.h"
@@ -105,45 +103,36 @@ TEST_F(LinkCalls, NameWhatIsGoingOn) {
   struct Row {
     std::uint8_t direction;
     std::uint8_t file;
-    const char* what;
+    WorkInHand what;
   };
   const Row rows[] = {
-      {TILBRIDGE_UPLOAD, 0, "Reading the programming from the register"},
-      {TILBRIDGE_DOWNLOAD, 0, "Sending the programming to the register"},
-      {TILBRIDGE_UPLOAD, 1, "Reading the items from the register"},
-      {TILBRIDGE_DOWNLOAD, 1, "Sending the items to the register"},
-      {TILBRIDGE_DOWNLOAD, 2, "Sending the logo to the register"},
-      {TILBRIDGE_UPLOAD, 12, "Looking for the register"},
-      {TILBRIDGE_UPLOAD, 22, "Asking the register for its release"},
-      {TILBRIDGE_UPLOAD, 3, "Reading the report C-I-D"},
-      {TILBRIDGE_UPLOAD, 20, "Reading the report ASK"},
-      {TILBRIDGE_UPLOAD, 24, "Reading the report "},
-      {TILBRIDGE_UPLOAD, 25, "Reading the report "},
-      {TILBRIDGE_UPLOAD, 255, "Reading the report "},
+      {TILBRIDGE_UPLOAD, 0, {Work::reading_programming}},    {TILBRIDGE_DOWNLOAD, 0, {Work::sending_programming}},
+      {TILBRIDGE_UPLOAD, 1, {Work::reading_items}},          {TILBRIDGE_DOWNLOAD, 1, {Work::sending_items}},
+      {TILBRIDGE_DOWNLOAD, 2, {Work::sending_logo}},         {TILBRIDGE_UPLOAD, 12, {Work::looking_for_register}},
+      {TILBRIDGE_UPLOAD, 22, {Work::asking_release}},        {TILBRIDGE_UPLOAD, 3, {Work::reading_report, "C-I-D"}},
+      {TILBRIDGE_UPLOAD, 20, {Work::reading_report, "ASK"}}, {TILBRIDGE_UPLOAD, 24, {Work::reading_report}},
+      {TILBRIDGE_UPLOAD, 25, {Work::reading_report}},        {TILBRIDGE_UPLOAD, 255, {Work::reading_report}},
   };
   link();
   for (const Row& row : rows) {
     shell.waits.clear();
     send_cmd(row.direction, row.file);
-    EXPECT_EQ(shell.waits, Lines{row.what});
+    EXPECT_EQ(shell.waits, std::vector<WorkInHand>{row.what});
   }
   shell.waits.clear();
   util_get_range_report(Global::PathApp, 5, code, 120, 1, 99, 4);
   util_send_logo_to_ecr(Global::PathApp, "", "", code, 60);
-  EXPECT_EQ(shell.waits, (Lines{"Reading the report RANGE DEPT", "Converting the logo"}));
+  EXPECT_EQ(shell.waits, (std::vector<WorkInHand>{{Work::reading_report, "RANGE DEPT"}, {Work::converting_logo}}));
 }
 
-// The card of a wait finds the words of another language by the English ones.
-TEST_F(LinkCalls, NameWhatIsGoingOnInWordsThatEveryLanguageKnows) {
+TEST_F(LinkCalls, NameWhatIsGoingOnWhateverTheyMove) {
   link();
   for (int file = 0; file < 256; ++file) {
     send_cmd(TILBRIDGE_UPLOAD, static_cast<std::uint8_t>(file));
     send_cmd(TILBRIDGE_DOWNLOAD, static_cast<std::uint8_t>(file));
   }
-  util_send_logo_to_ecr(Global::PathApp, "", "", code, 60);
-  ASSERT_EQ(shell.waits.size(), 513U);
-  LanguageNumber = 3;
-  for (const std::string& what : shell.waits) EXPECT_NE(own_bytes_of_work(what), what);
+  ASSERT_EQ(shell.waits.size(), 512U);
+  for (const WorkInHand& what : shell.waits) EXPECT_NE(what.work, Work::unnamed);
 }
 
 TEST_F(LinkCalls, TakeNoInputUnlessTheyAreMadeInTheBackground) {
@@ -286,7 +275,7 @@ class LoadedLink : public InstallationTest {
       EXPECT_EQ(code, 0);
     }
     EXPECT_EQ(log(), Lines{"Link library " + name() + " not used: it lacks the call " + call});
-    EXPECT_EQ(shell.waits, Lines{});
+    EXPECT_EQ(shell.waits, std::vector<WorkInHand>{});
   }
 
   /// A function that the sample library offers beside the three calls.
@@ -415,7 +404,7 @@ TEST_F(LoadedLink, IsMissedWithOneLineAndEveryCallAnswers0) {
   ASSERT_EQ(lines.size(), 1U);
   EXPECT_TRUE(lines[0].starts_with("Link library " + name() + " not loaded: ")) << lines[0];
   EXPECT_NE(lines[0].find(host(name())), std::string::npos) << lines[0];
-  EXPECT_EQ(shell.waits, Lines{}) << "nobody is kept waiting for a call that is not made";
+  EXPECT_EQ(shell.waits, std::vector<WorkInHand>{}) << "nobody is kept waiting for a call that is not made";
   EXPECT_FALSE(link_call_in_flight());
 }
 

@@ -255,7 +255,7 @@ TEST_F(PortWalk, LeavesTheScreensOpenToInput) {
   devices({"Register (COM4)"});
   EXPECT_TRUE(Test_Com(false));
   EXPECT_EQ(shell.waiting_kinds, (std::vector<Waiting>{Waiting::background, Waiting::background}));
-  EXPECT_EQ(shell.waits, (Lines{"Looking for serial ports", "Looking for the register"}));
+  EXPECT_EQ(shell.waits, (std::vector<WorkInHand>{{Work::looking_for_ports}, {Work::looking_for_register}}));
   std::int32_t code = 0;
   util_send_cmd_to_ecr(Global::PathApp, 0, 0, code, 120, 4);
   EXPECT_EQ(shell.waiting_kinds.back(), Waiting::modal) << "other calls do not";

@@ -98,10 +98,10 @@ TEST_F(Processes, AWaitIsLoggedAtEachTurnInDebugMode) {
 
 TEST_F(Processes, ATimedWaitLastsItsSeconds) {
   const double start = shell.moment.second_of_day;
-  Aspetta(2.5, "what for");
+  Aspetta(2.5, Work::taking_in_items);
   EXPECT_GE(shell.moment.second_of_day - start, 2.5);
   EXPECT_LT(shell.moment.second_of_day - start, 2.6);
-  EXPECT_EQ(shell.waits, Lines{"what for"});
+  EXPECT_EQ(shell.waits, std::vector<WorkInHand>{{Work::taking_in_items}});
   EXPECT_EQ(shell.seconds_waited, std::vector<double>{2.5});
 }
 

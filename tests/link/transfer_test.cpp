@@ -97,7 +97,7 @@ TEST_F(Transfer, TheRegisterIsGiven1Point4SecondsForEachFlaggedItem) {
   EXPECT_DOUBLE_EQ(shell.seconds_waited[0], 7);
   EXPECT_GE(shell.moment.second_of_day - start, 7);
   EXPECT_FALSE(written_early) << "the file is written behind the wait";
-  EXPECT_EQ(shell.waits.back(), "The register is taking in the changed items");
+  EXPECT_EQ(shell.waits.back(), WorkInHand{Work::taking_in_items});
 }
 
 TEST_F(Transfer, WithoutFlaggedItemsTheWaitIs0) {

@@ -45,14 +45,14 @@ void ScriptedShell::let_screens_work() {
   if (on_screens_work) on_screens_work();
 }
 
-void ScriptedShell::run_beside(std::string_view what, Waiting waiting, const std::function<void()>& job) {
-  waits.emplace_back(what);
+void ScriptedShell::run_beside(const WorkInHand& what, Waiting waiting, const std::function<void()>& job) {
+  waits.push_back(what);
   waiting_kinds.push_back(waiting);
   job();
 }
 
-void ScriptedShell::wait_until(std::string_view what, double seconds, const std::function<bool()>& done) {
-  waits.emplace_back(what);
+void ScriptedShell::wait_until(const WorkInHand& what, double seconds, const std::function<bool()>& done) {
+  waits.push_back(what);
   seconds_waited.push_back(seconds);
   while (!done()) let_screens_work();
 }

@@ -27,7 +27,7 @@ class ScriptedShell final : public Shell {
   /// The titles of the boxes that were shown, in order.
   std::vector<std::string> box_titles;
   /// What run_beside and wait_until were told they do, in order.
-  std::vector<std::string> waits;
+  std::vector<WorkInHand> waits;
   std::vector<Waiting> waiting_kinds;
   std::vector<Pointer> pointers;
   /// The seconds that each wait_until was asked for.
@@ -42,8 +42,8 @@ class ScriptedShell final : public Shell {
   Answer box(BoxKind kind, BoxButtons buttons, std::string_view text, std::string_view title) override;
   void let_screens_work() override;
   void pointer(Pointer pointer) override { pointers.push_back(pointer); }
-  void run_beside(std::string_view what, Waiting waiting, const std::function<void()>& job) override;
-  void wait_until(std::string_view what, double seconds, const std::function<bool()>& done) override;
+  void run_beside(const WorkInHand& what, Waiting waiting, const std::function<void()>& job) override;
+  void wait_until(const WorkInHand& what, double seconds, const std::function<bool()>& done) override;
   [[noreturn]] void end_program() override { throw ProgramEnded{}; }
 
  private:

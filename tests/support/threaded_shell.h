@@ -29,7 +29,7 @@ class ThreadedShell final : public Shell {
     std::this_thread::yield();
   }
   void pointer(Pointer) override {}
-  void run_beside(std::string_view, Waiting, const std::function<void()>& job) override {
+  void run_beside(const WorkInHand&, Waiting, const std::function<void()>& job) override {
     std::atomic<bool> done = false;
     std::thread beside{[&] {
       job();
@@ -38,7 +38,7 @@ class ThreadedShell final : public Shell {
     while (!done) let_screens_work();
     beside.join();
   }
-  void wait_until(std::string_view, double, const std::function<bool()>& done) override {
+  void wait_until(const WorkInHand&, double, const std::function<bool()>& done) override {
     while (!done()) let_screens_work();
   }
   [[noreturn]] void end_program() override { throw ProgramEnded{}; }

@@ -39,12 +39,12 @@ void WatchedShell::pointer(Pointer pointer) {
   scripted_.pointer(pointer);
 }
 
-void WatchedShell::run_beside(std::string_view what, Waiting waiting, const std::function<void()>& job) {
+void WatchedShell::run_beside(const WorkInHand& what, Waiting waiting, const std::function<void()>& job) {
   if (on_run_beside) on_run_beside(waiting);
   scripted_.run_beside(what, waiting, job);
 }
 
-void WatchedShell::wait_until(std::string_view what, double seconds, const std::function<bool()>& done) {
+void WatchedShell::wait_until(const WorkInHand& what, double seconds, const std::function<bool()>& done) {
   scripted_.wait_until(what, seconds, done);
 }
 

@@ -50,8 +50,8 @@ class WatchedShell final : public Shell {
   Answer box(BoxKind kind, BoxButtons buttons, std::string_view text, std::string_view title) override;
   void let_screens_work() override;
   void pointer(Pointer pointer) override;
-  void run_beside(std::string_view what, Waiting waiting, const std::function<void()>& job) override;
-  void wait_until(std::string_view what, double seconds, const std::function<bool()>& done) override;
+  void run_beside(const WorkInHand& what, Waiting waiting, const std::function<void()>& job) override;
+  void wait_until(const WorkInHand& what, double seconds, const std::function<bool()>& done) override;
   /// In a copy of the process: status 0, or 1 if something went wrong by then. Else ProgramEnded is thrown.
   [[noreturn]] void end_program() override;
 

@@ -215,9 +215,9 @@ TEST_F(FieldUnderRealShell, ABusyWaitIsNoLeave) {
     const auto* panel = stage.findChild<QWidget*>(QStringLiteral("WaitPanel"));
     return panel != nullptr && panel->isVisible();
   };
-  real.wait_until("a wait", 1, panel_is_up);
-  real.run_beside("a call", Waiting::modal, [] {});
-  real.run_beside("a call", Waiting::background, [] {});
+  real.wait_until({}, 1, panel_is_up);
+  real.run_beside({}, Waiting::modal, [] {});
+  real.run_beside({}, Waiting::background, [] {});
   EXPECT_TRUE(field.hasFocus());
   EXPECT_EQ(left, 0);
   EXPECT_EQ(entered, 1);

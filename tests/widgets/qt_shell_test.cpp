@@ -253,7 +253,7 @@ TEST_F(QtShellTest, AJobRunsOnAThreadOfItsOwnWhileTimersAndPaintingGoOn) {
       if (ticks > 3 && paints.count > 0) job.release();
     });
     timer.start(1);
-    real.run_beside("a call", waiting, [&job] { job(); });
+    real.run_beside({}, waiting, [&job] { job(); });
     EXPECT_TRUE(job.in_time);
     EXPECT_NE(job.ran_on, std::this_thread::get_id());
     EXPECT_GT(ticks, 3);
@@ -263,7 +263,7 @@ TEST_F(QtShellTest, AJobRunsOnAThreadOfItsOwnWhileTimersAndPaintingGoOn) {
 TEST_F(QtShellTest, AJobThatIsDoneAtOnceReturns) {
   for (int i = 0; i < 50; ++i) {
     bool ran = false;
-    real.run_beside("a call", i % 2 == 0 ? Waiting::modal : Waiting::background, [&ran] { ran = true; });
+    real.run_beside({}, i % 2 == 0 ? Waiting::modal : Waiting::background, [&ran] { ran = true; });
     EXPECT_TRUE(ran);
   }
 }
@@ -274,7 +274,7 @@ TEST_F(QtShellTest, AModalJobSwallowsInput) {
     try_everything();
     job.release();
   });
-  real.run_beside("a call", Waiting::modal, [&job] { job(); });
+  real.run_beside({}, Waiting::modal, [&job] { job(); });
   EXPECT_EQ(pressed, 0);
   EXPECT_EQ(field.text(), QString{});
   EXPECT_EQ(stage.top(), screen) << "the close box does nothing either";
@@ -291,7 +291,7 @@ TEST_F(QtShellTest, ABackgroundJobLetsInputIn) {
     type(QStringLiteral("x"));
     job.release();
   });
-  real.run_beside("a call", Waiting::background, [&job] { job(); });
+  real.run_beside({}, Waiting::background, [&job] { job(); });
   EXPECT_EQ(pressed, 1);
   EXPECT_EQ(field.text(), QStringLiteral("x"));
   EXPECT_EQ(panel(), nullptr);
@@ -301,11 +301,11 @@ TEST_F(QtShellTest, AHandlerDuringABackgroundJobMayRunAnotherJob) {
   HeldJob outer;
   bool inner_ran = false;
   button.on_click([&] {
-    real.run_beside("inner", Waiting::modal, [&inner_ran] { inner_ran = true; });
+    real.run_beside({}, Waiting::modal, [&inner_ran] { inner_ran = true; });
     outer.release();
   });
   QTimer::singleShot(0, &stage, [&] { click(button); });
-  real.run_beside("outer", Waiting::background, [&outer] { outer(); });
+  real.run_beside({}, Waiting::background, [&outer] { outer(); });
   EXPECT_TRUE(inner_ran);
   EXPECT_TRUE(outer.in_time);
 }
@@ -314,12 +314,11 @@ TEST_F(QtShellTest, AnOuterJobThatEndsFirstIsNotMissed) {
   std::promise<void> outer_over;
   std::future<void> over = outer_over.get_future();
   button.on_click([&] {
-    real.run_beside("inner", Waiting::background,
-                    [&] { EXPECT_EQ(over.wait_for(patience), std::future_status::ready); });
+    real.run_beside({}, Waiting::background, [&] { EXPECT_EQ(over.wait_for(patience), std::future_status::ready); });
   });
   QTimer::singleShot(0, &stage, [&] { click(button); });
   bool asked = false;
-  real.run_beside("outer", Waiting::background, [&] {
+  real.run_beside({}, Waiting::background, [&] {
     outer_over.set_value();
     asked = true;
   });
@@ -329,7 +328,7 @@ TEST_F(QtShellTest, AnOuterJobThatEndsFirstIsNotMissed) {
 
 TEST_F(QtShellTest, AWaitThatIsOverAtOnceShowsNothing) {
   int asked = 0;
-  real.wait_until("a wait", 60, [&] {
+  real.wait_until({}, 60, [&] {
     ++asked;
     return true;
   });
@@ -340,7 +339,7 @@ TEST_F(QtShellTest, AWaitThatIsOverAtOnceShowsNothing) {
 TEST_F(QtShellTest, AShortWaitShowsNoPanel) {
   int asked = 0;
   bool seen = false;
-  real.wait_until("a wait", 60, [&] {
+  real.wait_until({}, 60, [&] {
     seen = seen || panel_is_up();
     return ++asked == 3;
   });
@@ -357,7 +356,7 @@ TEST_F(QtShellTest, ALongerWaitShowsWhatGoesOnAfterAMoment) {
   int value = -1;
   int most = 0;
   QString rest;
-  real.wait_until("The register is taking in the items", 60, [&] {
+  real.wait_until({Work::taking_in_items}, 60, [&] {
     if (!panel_is_up()) return false;
     if (shown_after < 0) shown_after = since_start.elapsed();
     what = panel()->findChild<QLabel*>(QStringLiteral("WaitWhat"))->text();
@@ -369,7 +368,7 @@ TEST_F(QtShellTest, ALongerWaitShowsWhatGoesOnAfterAMoment) {
     return bar->value() > value;
   });
   EXPECT_GE(shown_after, WaitPanel::shown_after_ms - 5);
-  EXPECT_EQ(what, QStringLiteral("The register is taking in the items"));
+  EXPECT_EQ(what, QStringLiteral("The register is taking in the changed items"));
   EXPECT_EQ(most, 60'000);
   EXPECT_TRUE(rest == QStringLiteral("1:00 left") || rest == QStringLiteral("0:59 left")) << qPrintable(rest);
 }
@@ -377,7 +376,7 @@ TEST_F(QtShellTest, ALongerWaitShowsWhatGoesOnAfterAMoment) {
 TEST_F(QtShellTest, AWaitIsNamedInTheChosenLanguage) {
   LanguageNumber = 3;
   QString what;
-  real.wait_until("The register is taking in the changed items", 60, [&] {
+  real.wait_until({Work::taking_in_items}, 60, [&] {
     if (panel_is_up()) what = panel()->findChild<QLabel*>(QStringLiteral("WaitWhat"))->text();
     return !what.isEmpty();
   });
@@ -388,7 +387,7 @@ TEST_F(QtShellTest, AWaitIsNamedInTheChosenLanguage) {
 TEST_F(QtShellTest, AWaitTellsItsRestInTheChosenLanguage) {
   LanguageNumber = 6;
   QString rest;
-  real.wait_until("a wait", 60, [&] {
+  real.wait_until({}, 60, [&] {
     if (panel_is_up()) rest = panel()->findChild<QLabel*>(QStringLiteral("WaitRest"))->text();
     return !rest.isEmpty();
   });
@@ -409,7 +408,7 @@ TEST_F(QtShellTest, AWaitOfUnknownLengthRunsToAndFro) {
     job.release();
   });
   timer.start(1);
-  real.run_beside("Reading", Waiting::modal, [&job] { job(); });
+  real.run_beside({Work::reading_items}, Waiting::modal, [&job] { job(); });
   EXPECT_TRUE(endless);
   EXPECT_FALSE(tells_rest);
   EXPECT_EQ(panel(), nullptr);
@@ -442,12 +441,12 @@ TEST_F(QtShellTest, TheStepsOfOneWorkTellHowFarItIs) {
         job.release();
       });
       timer.start(1);
-      real.run_beside("Reading", Waiting::modal, [&job] { job(); });
+      real.run_beside({Work::reading_items}, Waiting::modal, [&job] { job(); });
     }
   }
   ASSERT_EQ(seen.size(), 3U);
   EXPECT_EQ(seen[0].what, QStringLiteral("All items"));
-  EXPECT_EQ(seen[1].what, QStringLiteral("Reading"));
+  EXPECT_EQ(seen[1].what, QStringLiteral("Reading the items from the register"));
   EXPECT_EQ(seen[2].what, QStringLiteral("Hours"));
   EXPECT_EQ(seen[0].rest, QStringLiteral("1 of 3"));
   EXPECT_EQ(seen[2].rest, QStringLiteral("3 of 3"));
@@ -460,7 +459,7 @@ TEST_F(QtShellTest, TheStepsOfOneWorkTellHowFarItIs) {
 TEST_F(QtShellTest, ThePanelCoversTheWholeWindowAlsoWhenThatGrows) {
   QRect before;
   QRect after;
-  real.wait_until("a wait", 60, [&] {
+  real.wait_until({}, 60, [&] {
     if (!panel_is_up()) return false;
     before = panel()->geometry();
     stage.resize(stage.size() + QSize{60, 40});
@@ -474,7 +473,7 @@ TEST_F(QtShellTest, ThePanelCoversTheWholeWindowAlsoWhenThatGrows) {
 
 TEST_F(QtShellTest, AWaitSwallowsInputFromItsFirstMomentOn) {
   int turn = 0;
-  real.wait_until("a wait", 60, [&] {
+  real.wait_until({}, 60, [&] {
     // Not at the first question, which comes before the wait.
     if (++turn == 2) try_everything();
     return turn == 4;
@@ -490,7 +489,7 @@ TEST_F(QtShellTest, WhatCameInBeforeAWaitIsHandled) {
   QMetaObject::invokeMethod(
       &button, [this] { button.click(); }, Qt::QueuedConnection);
   int pressed_at_first = -1;
-  real.wait_until("a wait", 1, [&] {
+  real.wait_until({}, 1, [&] {
     pressed_at_first = pressed;
     return true;
   });
