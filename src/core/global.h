@@ -25,7 +25,7 @@ extern std::uint8_t ComPort;        ///< serial port of all register traffic, 0 
 extern std::uint8_t EcrModel;       ///< model_z300 or model_z320
 extern std::int16_t MaxPlu;         ///< 3000 on both models, set when a model is chosen
 extern std::uint8_t FwLevel;        ///< class of the linked firmware, see link/firmware.h
-extern std::uint8_t DecimalPoint;   ///< decimals of amounts, 0 to 3; written by take_decimal_point alone
+extern std::uint8_t DecimalPoint;   ///< decimals of amounts, 0 to 3; take_decimal_point and ProgrammingCopy write it
 extern std::string ProgramVersion;  ///< "V. 1.0.0", set on the start screen
 
 inline constexpr std::uint8_t model_z300 = 0;
